@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+
+#include "state/item_record.h"
+
+/// The ordered array of item records. Display order is list order.
+///
+/// A value type that shares its content until it is changed, so that the working copy, the store
+/// and a save in progress can hold the same list: changing one record of a large list must not
+/// copy the others.
+class ItemList {
+public:
+    ItemList() = default;
+
+    qsizetype size() const;
+    bool isEmpty() const;
+    /// Throws RangeException (platform/exceptions.h) when the index is outside the list; so do
+    /// replace() and removeAt().
+    const ItemRecord& at(qsizetype index) const;
+
+    void append(const ItemRecord& record);
+    void replace(qsizetype index, const ItemRecord& record);
+    void removeAt(qsizetype index);
+    /// Removes every record for which the predicate answers true; keeps the order of the rest.
+    void removeIf(const std::function<bool(const ItemRecord&)>& predicate);
+    /// Sorts by `fileTitle`, plain UTF-16 comparison; records of equal titles in any order.
+    void sortByTitle(bool ascending);
+    void forEach(const std::function<void(const ItemRecord&)>& visitor) const;
+};
+
+Q_DECLARE_METATYPE(ItemList)
