@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label for one long word, such as a path: breaks it wherever the width ends, so that nothing
+/// is cut off and its text stays exactly what was set.
+class WrapLabel final : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit WrapLabel(QWidget* parent = nullptr);
+
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+};

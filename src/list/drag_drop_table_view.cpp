@@ -1,0 +1,350 @@
+#include "list/drag_drop_table_view.h"
+
+#include <QAbstractListModel>
+#include <QContextMenuEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QTimer>
+#include <QToolButton>
+
+#include "list/accessible_items.h"
+#include "platform/bundle.h"
+#include "platform/notification_center.h"
+
+/// The rows as of the last reload; what they show is asked of the data source.
+class TableRowsModel final : public QAbstractListModel {
+public:
+    using QAbstractListModel::QAbstractListModel;
+
+    int rowCount(const QModelIndex& parent = {}) const override {
+        return parent.isValid() ? 0 : count_;
+    }
+    QVariant data(const QModelIndex& index, int role) const override {
+        return source_ != nullptr && role == Qt::DisplayRole ? source_->titleOfRow(index.row())
+                                                             : QVariant();
+    }
+    void setSource(const TableDataSource* source) { source_ = source; }
+    // Rows come and go at the end: a row is nothing but its number.
+    void setCount(int count) {
+        if (count > count_) {
+            beginInsertRows({}, count_, count - 1);
+            count_ = count;
+            endInsertRows();
+        } else if (count < count_) {
+            beginRemoveRows({}, count, count_ - 1);
+            count_ = count;
+            endRemoveRows();
+        }
+    }
+
+private:
+    const TableDataSource* source_ = nullptr;
+    int count_ = 0;
+};
+
+namespace {
+
+// Cells out of view are dropped once there are more than a few screens of them.
+constexpr size_t mostCells = 256;
+
+class CellDelegate final : public QStyledItemDelegate {
+public:
+    explicit CellDelegate(DragDropTableView* table) : QStyledItemDelegate(table), table_(table) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        painter->save();
+        table_->cellForRow(index.row())->drawRect(*painter, option.rect);
+        if (table_->hasFocus() && index.row() == table_->currentRow()) {
+            painter->setPen(QPen(QColor(255, 255, 255, 200), 1));
+            painter->drawRect(option.rect.adjusted(2, 2, -3, -3));
+        }
+        painter->restore();
+    }
+    QSize sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const override {
+        return {1, table_->rowHeight()};
+    }
+
+private:
+    DragDropTableView* table_;
+};
+
+}  // namespace
+
+DragDropTableView::DragDropTableView(QWidget* parent)
+    : QListView(parent), rows_(new TableRowsModel(this)) {
+    setObjectName(QStringLiteral("tableView"));
+    setAccessibleName(QStringLiteral("Items"));
+    setFrameShape(QFrame::NoFrame);
+    setModel(rows_);
+    setItemDelegate(new CellDelegate(this));
+    setUniformItemSizes(true);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setVerticalScrollMode(ScrollPerPixel);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    viewport()->setMouseTracking(true);
+    // Rows are clear and their text is black, so the ground is light whatever the palette.
+    QPalette light = palette();
+    light.setColor(QPalette::Base, Qt::white);
+    setPalette(light);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (!reloading_) {
+            emit selectionDidChange();
+        }
+    });
+    makeHoverButtons();
+}
+
+DragDropTableView::~DragDropTableView() = default;
+
+void DragDropTableView::makeHoverButtons() {
+    const auto make = [this](const char* imageKey, const char* name) {
+        auto* button = new QToolButton(viewport());
+        button->setObjectName(QLatin1String(name));
+        button->setIcon(Bundle::imageNamed(
+            Bundle::localizedString(QLatin1String(imageKey), QStringLiteral("Main"))));
+        button->setIconSize({20, 20});
+        button->setAutoRaise(true);
+        button->setStyleSheet(QStringLiteral("QToolButton { border: none; padding: 0; }"));
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setCursor(Qt::ArrowCursor);
+        button->hide();
+        return button;
+    };
+    checkButton_ = make("searchTitle", "checkButton");
+    checkButton_->setToolTip(tr("Reveal in the file manager"));
+    deletedButton_ = make("removeTitle", "deletedButton");
+    deletedButton_->setToolTip(tr("Remove from the list"));
+    // A reload in answer to the press makes fresh cells: hold this one until it is through.
+    connect(checkButton_, &QToolButton::clicked, this, [this] {
+        const auto cell = cellForRow(hoveredRow_);
+        cell->searchFilePath();
+    });
+    connect(deletedButton_, &QToolButton::clicked, this, [this] {
+        const auto cell = cellForRow(hoveredRow_);
+        cell->delatedFilePath();
+    });
+}
+
+void DragDropTableView::setDataSource(TableDataSource* source) {
+    source_ = source;
+    rows_->setSource(source);
+}
+
+int DragDropTableView::rowHeight() const {
+    // 40 units, unless the user's font needs more.
+    const int given = source_ != nullptr ? source_->heightOfRow(0) : 40;
+    return std::max(given, fontMetrics().height() + 8);
+}
+
+void DragDropTableView::reloadData() {
+    const int count = source_ != nullptr ? source_->numberOfRowsInTableView() : 0;
+    {
+        const QScopedValueRollback guard(reloading_, true);
+        if (selectedRow() >= count) {
+            selectionModel()->clear();
+        }
+        rows_->setCount(count);
+    }
+    cells_.clear();
+    setHoveredRow(-1);
+    viewport()->update();
+    updateAccessibleItems(this);
+}
+
+int DragDropTableView::selectedRow() const {
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? -1 : selected.constFirst().row();
+}
+
+void DragDropTableView::setCurrentRow(int row) {
+    currentRow_ = row;
+    const QScopedValueRollback guard(reloading_, true);
+    selectionModel()->setCurrentIndex(rows_->index(row), QItemSelectionModel::NoUpdate);
+}
+
+void DragDropTableView::selectRow(int row) {
+    if (row < 0 || row >= rows_->rowCount()) {
+        return;
+    }
+    if (selectedRow() == row && currentRow_ != row) {
+        const QScopedValueRollback guard(reloading_, true);
+        selectionModel()->clearSelection();
+    }
+    selectionModel()->setCurrentIndex(rows_->index(row), QItemSelectionModel::ClearAndSelect);
+    scrollTo(rows_->index(row));
+}
+
+void DragDropTableView::scrollToRow(int row) {
+    scrollTo(rows_->index(row));
+}
+
+std::shared_ptr<ListCell> DragDropTableView::cellForRow(int row) const {
+    auto& cell = cells_[row];
+    if (!cell) {
+        cell = source_ != nullptr ? source_->viewForRow(row) : std::make_shared<ListCell>();
+    }
+    return cell;
+}
+
+int DragDropTableView::rowAt(const QPoint& position) const {
+    return indexAt(position).row();
+}
+
+void DragDropTableView::mousePressEvent(QMouseEvent* event) {
+    const int row = rowAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton) {
+        clickedRow_ = row;
+    }
+    if (row < 0) {
+        // A click below the last row deselects, which gives the list its first row back.
+        const bool selected = selectedRow() >= 0;
+        selectionModel()->clearSelection();
+        if (!selected && currentRow_ > 0) {
+            emit selectionDidChange();
+        }
+        return;
+    }
+    if (selectedRow() == row && currentRow_ != row) {
+        selectRow(row);
+        return;
+    }
+    QListView::mousePressEvent(event);
+}
+
+void DragDropTableView::mouseDoubleClickEvent(QMouseEvent* event) {
+    QListView::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton) {
+        clickedRow_ = rowAt(event->position().toPoint());
+        emit doubleAction();
+    }
+}
+
+void DragDropTableView::mouseMoveEvent(QMouseEvent* event) {
+    setHoveredRow(rowAt(event->position().toPoint()));
+    QListView::mouseMoveEvent(event);
+}
+
+bool DragDropTableView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Leave) {
+        setHoveredRow(-1);
+    } else if (event->type() == QEvent::Resize) {
+        placeHoverButtons();
+    }
+    return QListView::viewportEvent(event);
+}
+
+void DragDropTableView::scrollContentsBy(int dx, int dy) {
+    QListView::scrollContentsBy(dx, dy);
+    if (cells_.size() > mostCells) {
+        cells_.clear();
+        hoveredRow_ = -1;
+    }
+    const bool inside = viewport()->underMouse();
+    setHoveredRow(inside ? rowAt(viewport()->mapFromGlobal(QCursor::pos())) : -1);
+}
+
+void DragDropTableView::setHoveredRow(int row) {
+    if (row != hoveredRow_) {
+        if (const auto left = cells_.find(hoveredRow_); left != cells_.end()) {
+            left->second->mouseExited();
+        }
+        hoveredRow_ = row;
+        if (row >= 0) {
+            cellForRow(row)->mouseEntered();
+        }
+    }
+    placeHoverButtons();
+}
+
+void DragDropTableView::placeHoverButtons() {
+    if (hoveredRow_ < 0 || hoveredRow_ >= rows_->rowCount()) {
+        checkButton_->hide();
+        deletedButton_->hide();
+        return;
+    }
+    const auto cell = cellForRow(hoveredRow_);
+    const ListCell::Layout parts = cell->layout(visualRect(rows_->index(hoveredRow_)), fontMetrics());
+    checkButton_->setGeometry(parts.checkButton);
+    deletedButton_->setGeometry(parts.deletedButton);
+    checkButton_->setAccessibleName(QStringLiteral("Reveal ") + cell->listTextField);
+    deletedButton_->setAccessibleName(QStringLiteral("Remove ") + cell->listTextField);
+    checkButton_->setVisible(!cell->checkButtonHidden);
+    deletedButton_->setVisible(!cell->deletedButtonHidden);
+}
+
+void DragDropTableView::keyPressEvent(QKeyEvent* event) {
+    const int last = rows_->rowCount() - 1;
+    const int page = std::max(1, viewport()->height() / rowHeight() - 1);
+    int row = currentRow_;
+    switch (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier
+                ? event->key()
+                : Qt::Key_unknown) {
+        case Qt::Key_Up:
+            row -= 1;
+            break;
+        case Qt::Key_Down:
+            row += 1;
+            break;
+        case Qt::Key_PageUp:
+            row -= page;
+            break;
+        case Qt::Key_PageDown:
+            row += page;
+            break;
+        case Qt::Key_Home:
+            row = 0;
+            break;
+        case Qt::Key_End:
+            row = last;
+            break;
+        default:
+            QListView::keyPressEvent(event);
+            return;
+    }
+    row = std::clamp(row, 0, std::max(0, last));
+    if (row != currentRow_) {
+        selectRow(row);
+    }
+}
+
+void DragDropTableView::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    const int row = byKey ? currentRow_ : rowAt(event->pos());
+    if (row < 0 || row >= rows_->rowCount()) {
+        return;
+    }
+    const QPoint below = visualRect(rows_->index(row)).center();
+    emit contextMenuRequested(row, byKey ? viewport()->mapToGlobal(below) : event->globalPos());
+}
+
+void DragDropTableView::initWithInterfaceFile() {
+    NotificationCenter::defaultCenter().addObserver(this, &DragDropTableView::changeNotification,
+                                                    QStringLiteral("changeTable"));
+    constexpr int headerPointSize = 50;
+    QFont bold = font();
+    bold.setBold(true);
+    bold.setPointSize(headerPointSize);
+    if (!tableColumns_.isEmpty()) {
+        TableColumn& first = tableColumns_.first();
+        first = {first.identifier, QStringLiteral("name"), bold, Qt::AlignLeft, 265, 50, true, true};
+        if (tableColumns_.size() >= 2) {
+            TableColumn& status = tableColumns_.last();
+            status = {status.identifier, QStringLiteral("statues"), bold, Qt::AlignHCenter, 100, 50,
+                      true, true};
+        } else {
+            addColumn(QStringLiteral("2"), QStringLiteral("statues"));
+        }
+    }
+    QTimer::singleShot(1000, this, &DragDropTableView::reloadData);
+}
+
+void DragDropTableView::addColumn(const QString& identifier, const QString& title) {
+    QFont bold = font();
+    bold.setBold(true);
+    bold.setPointSize(50);
+    tableColumns_.append({identifier, title, bold, Qt::AlignHCenter, 100, 100, true, true});
+}

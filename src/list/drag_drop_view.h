@@ -1,0 +1,137 @@
+#pragma once
+
+#include <optional>
+
+#include <QHash>
+#include <QWidget>
+
+#include "list/drag_drop_table_view.h"
+#include "list/list_cell.h"
+#include "list/top_view.h"
+#include "state/item_list.h"
+
+class QMimeData;
+struct Notification;
+
+/// Receives the selection report.
+class DragDropViewDelegate {
+public:
+    virtual ~DragDropViewDelegate() = default;
+    /// The current record, or null when nothing is left to be current.
+    virtual void selectedTableLists(const ItemRecord* record) = 0;
+};
+
+/// Which record a drop of one path replaces, decided by a walk over the list that removes as it
+/// goes: every record equal to the first match is removed. Throws CollectionMutatedException,
+/// with the list already shortened, when records followed the match. A list that is handed many
+/// paths is walked once.
+class DropWalk {
+public:
+    explicit DropWalk(ItemList& list);
+    /// Makes `path` the last record, visible.
+    void drop(const QString& path);
+
+private:
+    ItemList& list_;
+    QHash<QString, qsizetype> firstIndex_;
+};
+
+/// The list of the main window: a header bar over a one-column table. It holds the working copy of
+/// the item list and the current row, which is apart from the table's own selection; it removes,
+/// reveals, opens and sorts, takes dropped files, and stores the whole list whenever it adds or
+/// removes records. It never hides or shows anything.
+class DragDropView final : public QWidget,
+                           public TopViewDelegate,
+                           public ListCellDelegate,
+                           public TableDataSource {
+    Q_OBJECT
+
+public:
+    explicit DragDropView(QWidget* parent = nullptr);
+    ~DragDropView() override;
+
+    /// Not owned; must outlive the view or be unset.
+    void setDelegate(DragDropViewDelegate* delegate) { delegate_ = delegate; }
+    /// Drops are accepted only while true; false at first.
+    bool canDragDrop() const { return canDragDrop_; }
+    void setCanDragDrop(bool can) { canDragDrop_ = can; }
+
+    /// The working copy. No value while it was never loaded or was loaded from an absent list.
+    const std::optional<ItemList>& fileLists() const { return fileLists_; }
+    /// Loads the working copy; from now on it may be stored.
+    void setFileLists(const std::optional<ItemList>& lists);
+    /// Whether setFileLists() was called: a list that was never loaded is never stored, so that
+    /// no path can write the empty working copy of a locked window over the stored list.
+    bool isLoaded() const { return loaded_; }
+    qsizetype count() const { return fileLists_ ? fileLists_->size() : 0; }
+    /// Puts a record in place of another. Throws RangeException outside the list.
+    void replaceRecord(qsizetype index, const ItemRecord& record);
+    /// Removes one record. Throws RangeException outside the list.
+    void removeRecord(qsizetype index);
+    /// Stores the working copy as it stands, sorted order included; nothing while it was never
+    /// loaded.
+    void storeFileLists();
+
+    int selectRowIndex() const { return selectRowIndex_; }
+    /// Only the index: no report, no reload.
+    void setSelectRowIndex(int index);
+
+    TopView* topViw() const { return topViw_; }
+    DragDropTableView* tableView() const { return tableView_; }
+
+    /// Applies the alternating-colours preference, reloads the table and makes the selection
+    /// report.
+    void reloadData();
+    /// Appends the records unchecked, makes the last one current, stores and reloads. The delegate
+    /// is told twice.
+    void addFileList(const QList<ItemRecord>& records);
+    /// Sets the current row unchecked, makes the selection report and reloads the table.
+    void selectTableViewCellForRowIndex(int index);
+    /// Reloads the table only.
+    void changeCellData(const Notification& notification);
+    /// Nothing registers for it; an available handler.
+    void changeNotification(const Notification& notification);
+    /// Opens the clicked item when the preference is on and the item visible. Throws
+    /// RangeException for a double-click below the last row.
+    void doubleClick();
+
+    void tableHeaderViewLeftBtnTouch(ItemButton* button) override;
+    void tableHeaderViewRightBtnTouch(ItemButton* button) override;
+    void checkCellBtnTouch(const ListCell& cell) override;
+    void removeCellBtnTouch(const ListCell& cell) override;
+
+    int numberOfRowsInTableView() const override { return static_cast<int>(count()); }
+    std::shared_ptr<ListCell> viewForRow(int row) const override;
+    int heightOfRow(int /*row*/) const override { return 40; }
+    QString titleOfRow(int row) const override;
+
+    /// The drag shows the copy cursor, whatever it carries.
+    Qt::DropAction draggingEntered(const QMimeData* data) const;
+    Qt::DropAction draggingUpdated(const QMimeData* data) const { return draggingEntered(data); }
+    /// The whole drop; the records are in place when it returns. False when drops are refused.
+    bool prepareForDragOperation(const QMimeData* data);
+
+signals:
+    /// Some of what was dropped could not be taken: `text` says why, for the quiet line.
+    void dropRefused(const QString& text);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void selectionReport();
+    void tableSelectionDidChange();
+    void sort(const ItemButton* button);
+    void showContextMenu(int row, const QPoint& position);
+
+    TopView* topViw_;
+    DragDropTableView* tableView_;
+    DragDropViewDelegate* delegate_ = nullptr;
+    std::optional<ItemList> fileLists_;
+    int selectRowIndex_ = 0;
+    bool canDragDrop_ = false;
+    bool loaded_ = false;
+    Qt::DropActions draggingSourceOperationMask_ = Qt::CopyAction | Qt::LinkAction | Qt::MoveAction;
+};

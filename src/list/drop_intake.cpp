@@ -1,0 +1,120 @@
+#include <QDragEnterEvent>
+#include <QHash>
+#include <QMimeData>
+#include <QUrl>
+
+#include "list/drag_drop_view.h"
+#include "platform/exceptions.h"
+#include "platform/log.h"
+
+namespace {
+
+struct DroppedPaths {
+    QStringList paths;
+    bool someUnreadable = false;
+};
+
+// The file names on the drag, as absolute paths in the drag's order. Names that are no valid text
+// cannot be kept as one, and addresses on other machines are no files here.
+DroppedPaths droppedPaths(const QMimeData* data) {
+    DroppedPaths dropped;
+    for (const QUrl& url : data->urls()) {
+        const QString path = url.toLocalFile();
+        if (path.isEmpty() || path.contains(QChar::ReplacementCharacter)) {
+            dropped.someUnreadable = true;
+        } else {
+            dropped.paths << path;
+        }
+    }
+    return dropped;
+}
+
+QString describe(const ItemList& list) {
+    QStringList records;
+    records.reserve(list.size());
+    list.forEach([&](const ItemRecord& record) { records << Log::describe(record.toVariant()); });
+    return u'(' + records.join(QStringLiteral(", ")) + u')';
+}
+
+}  // namespace
+
+DropWalk::DropWalk(ItemList& list) : list_(list) {
+    firstIndex_.reserve(list.size());
+    qsizetype index = 0;
+    list.forEach([&](const ItemRecord& record) {
+        if (const QString path = record.filePath(); !firstIndex_.contains(path)) {
+            firstIndex_.insert(path, index);
+        }
+        ++index;
+    });
+}
+
+void DropWalk::drop(const QString& path) {
+    const auto match = firstIndex_.constFind(path);
+    if (match != firstIndex_.cend()) {
+        const bool recordsFollow = *match + 1 < list_.size();
+        if (recordsFollow) {
+            // The removal is made on the very list that is being walked: the next step of the walk
+            // fails, with memory already shortened.
+            const ItemRecord matched = list_.at(*match);
+            list_.removeIf([&](const ItemRecord& record) { return record == matched; });
+            throw CollectionMutatedException("the item list was changed while it was walked");
+        }
+        list_.removeAt(*match);
+    }
+    firstIndex_.insert(path, list_.size());
+    list_.append(ItemRecord::forPath(path, VisibleForm::StringOne));
+}
+
+Qt::DropAction DragDropView::draggingEntered(const QMimeData* data) const {
+    // The answer is not looked at: every drag shows the copy cursor.
+    [[maybe_unused]] const bool files = data->hasUrls();
+    return Qt::CopyAction;
+}
+
+bool DragDropView::prepareForDragOperation(const QMimeData* data) {
+    if (!canDragDrop_) {
+        return false;
+    }
+    const DroppedPaths dropped = droppedPaths(data);
+    if (!fileLists_) {
+        fileLists_.emplace();
+    }
+    if (dropped.someUnreadable) {
+        emit dropRefused(tr("Some of the dropped items could not be added: their names or places "
+                            "are not files on this computer that can be written as text."));
+    }
+    if (dropped.paths.isEmpty()) {
+        return true;
+    }
+    DropWalk walk(*fileLists_);
+    for (const QString& path : dropped.paths) {
+        walk.drop(path);
+    }
+    Log::line(QStringLiteral(">>> ") + describe(*fileLists_));
+    storeFileLists();
+    setSelectRowIndex(std::max(tableView_->selectedRow(), 0));
+    selectionReport();
+    tableView_->reloadData();
+    tableView_->setCurrentRow(selectRowIndex_);
+    return true;
+}
+
+void DragDropView::dragEnterEvent(QDragEnterEvent* event) {
+    event->setDropAction(draggingEntered(event->mimeData()));
+    event->accept();
+}
+
+void DragDropView::dragMoveEvent(QDragMoveEvent* event) {
+    event->setDropAction(draggingUpdated(event->mimeData()));
+    event->accept();
+}
+
+void DragDropView::dropEvent(QDropEvent* event) {
+    // Always a copy: a source that thinks its files were moved would delete them.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (!prepareForDragOperation(event->mimeData())) {
+        event->ignore();
+    }
+}

@@ -1,0 +1,101 @@
+#include "list/item_button.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "platform/bundle.h"
+
+namespace {
+
+constexpr int statusTag = 2;
+constexpr int arrowSide = 10;
+constexpr int arrowInset = 20;
+
+}  // namespace
+
+ItemButton::ItemButton(QWidget* parent) : QAbstractButton(parent) {
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void ItemButton::setTag(int tag) {
+    tag_ = tag;
+    setAccessibleName(title().trimmed());
+    updateDescription();
+    update();
+}
+
+void ItemButton::setOn(bool on) {
+    on_ = on;
+    updateDescription();
+    update();
+}
+
+void ItemButton::setPaixuImageHidden(bool hidden) {
+    paixuImageHidden_ = hidden;
+    updateDescription();
+    update();
+}
+
+QString ItemButton::title() const {
+    switch (tag_) {
+        case 1:
+            return QStringLiteral(" Item");
+        case statusTag:
+            return QStringLiteral("  Status");
+        default:
+            return {};
+    }
+}
+
+void ItemButton::updateDescription() {
+    if (paixuImageHidden_) {
+        setAccessibleDescription({});
+        return;
+    }
+    setAccessibleDescription(on_ ? tr("sorted in ascending order")
+                                 : tr("sorted in descending order"));
+}
+
+QSize ItemButton::sizeHint() const {
+    return {fontMetrics().horizontalAdvance(title()) + arrowInset + arrowSide, 30};
+}
+
+void ItemButton::enterEvent(QEnterEvent* /*event*/) {
+    backgroundColor_ = mouseEnteredColor_;
+    update();
+}
+
+void ItemButton::leaveEvent(QEvent* /*event*/) {
+    backgroundColor_ = mouseExitedColor_;
+    update();
+}
+
+void ItemButton::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    painter.fillRect(rect(), isDown() ? mouseEnteredColor_.darker(110) : backgroundColor_);
+    // The line under the title lies just beyond the height that is drawn, so that it shows only
+    // where the header gives it room.
+    painter.fillRect(0, height() + 1, width(), 1, Qt::gray);
+    if (tag_ == statusTag) {
+        painter.fillRect(0, 0, 1, height(), Qt::gray);
+    }
+    painter.setPen(Qt::black);
+    const int ascentRoom = (height() - fontMetrics().height()) / 2;
+    painter.drawText(QRect(0, ascentRoom, width(), fontMetrics().height()), Qt::AlignLeft, title());
+    if (!paixuImageHidden_) {
+        const QRect arrow(width() - arrowInset, (height() - arrowSide) / 2, arrowSide, arrowSide);
+        Bundle::imageNamed(on_ ? QStringLiteral("up") : QStringLiteral("down")).paint(&painter, arrow);
+    }
+    if (hasFocus()) {
+        painter.setPen(QPen(QColor(1, 92, 220), 2));
+        painter.drawRect(rect().adjusted(2, 2, -2, -2));
+    }
+}
+
+void ItemButton::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        animateClick();
+        return;
+    }
+    QAbstractButton::keyPressEvent(event);
+}

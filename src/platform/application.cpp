@@ -1,0 +1,76 @@
+#include "platform/application.h"
+
+#include <exception>
+
+#include <QEventLoop>
+#include <QPointer>
+#include <QWidget>
+
+#include "platform/log.h"
+
+namespace {
+
+QList<QEventLoop*>& modalLoops() {
+    static QList<QEventLoop*> loops;
+    return loops;
+}
+
+// Ends the loop also when the window is closed without anybody calling stopModal().
+class CloseWatcher final : public QObject {
+public:
+    CloseWatcher(QWidget* window, QEventLoop* loop) : loop_(loop) { window->installEventFilter(this); }
+
+    bool eventFilter(QObject* /*window*/, QEvent* event) override {
+        if (event->type() == QEvent::Hide && !event->spontaneous()) {
+            loop_->quit();
+        }
+        return false;
+    }
+
+private:
+    QEventLoop* loop_;
+};
+
+}  // namespace
+
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    setQuitOnLastWindowClosed(false);
+}
+
+bool Application::notify(QObject* receiver, QEvent* event) {
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const std::exception& exception) {
+        Log::line(QStringLiteral("An uncaught exception was raised: %1")
+                      .arg(QString::fromUtf8(exception.what())));
+    }
+    // Queued: the views may still stand in the middle of the call that failed.
+    QMetaObject::invokeMethod(this, &Application::exceptionReported, Qt::QueuedConnection);
+    return false;
+}
+
+void Application::runModalForWindow(QWidget* window) {
+    QEventLoop loop;
+    CloseWatcher watcher(window, &loop);
+    const QPointer<QWidget> guard(window);
+    window->setWindowModality(Qt::ApplicationModal);
+    window->show();
+    window->raise();
+    window->activateWindow();
+    modalLoops().append(&loop);
+    loop.exec(QEventLoop::DialogExec);
+    modalLoops().removeOne(&loop);
+    if (guard) {
+        guard->hide();
+    }
+}
+
+void Application::stopModal() {
+    if (!modalLoops().isEmpty()) {
+        modalLoops().constLast()->quit();
+    }
+}
+
+void Application::terminate() {
+    QCoreApplication::exit(0);
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QApplication>
+
+class QEventLoop;
+
+/// The application object: the platform's event loop with its three habits that the program
+/// relies on (exceptions that leave a handler are reported, windows run modally until somebody
+/// stops the modal loop, terminating ends every loop).
+class Application final : public QApplication {
+    Q_OBJECT
+
+public:
+    Application(int& argc, char** argv);
+
+    /// Reports an exception that leaves an event handler to the log; the program goes on.
+    bool notify(QObject* receiver, QEvent* event) override;
+
+    /// Shows `window` application-modally and returns when stopModal() was called for it (or when
+    /// it was closed by other means). The window is hidden then, not destroyed.
+    static void runModalForWindow(QWidget* window);
+    /// Ends the innermost modal loop that runs; nothing without one.
+    static void stopModal();
+
+    /// Ends the event loop, and the program with it. Asks nobody.
+    static void terminate();
+
+signals:
+    /// An exception has left a handler: what is in memory and what is shown may differ.
+    void exceptionReported();
+};

@@ -1,0 +1,44 @@
+#include "platform/standard_actions.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QWidget>
+
+namespace {
+
+bool isReadOnly(const QWidget* widget) {
+    const QVariant readOnly = widget->property("readOnly");
+    return readOnly.isValid() && readOnly.toBool();
+}
+
+// The text fields name these commands as their slots; anything else has none of them.
+bool canPerform(const QWidget* widget, const QByteArray& command) {
+    if (widget == nullptr) {
+        return false;
+    }
+    const int slot = widget->metaObject()->indexOfSlot(command + "()");
+    const bool changes = command != "copy" && command != "selectAll";
+    return slot >= 0 && !(changes && isReadOnly(widget));
+}
+
+}  // namespace
+
+StandardActions::StandardActions(QObject* parent) : QObject(parent) {}
+
+void StandardActions::connectAction(QAction* action, const char* command, QMenu* menu) {
+    const QByteArray name = command;
+    connect(action, &QAction::triggered, this, [name] {
+        QWidget* focus = QApplication::focusWidget();
+        if (canPerform(focus, name)) {
+            QMetaObject::invokeMethod(focus, name.constData());
+        }
+    });
+    connect(menu, &QMenu::aboutToShow, action, [action, name] {
+        action->setEnabled(canPerform(QApplication::focusWidget(), name));
+    });
+    // Keys reach the command also while the menu is closed, whatever it last showed.
+    connect(menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); },
+            Qt::QueuedConnection);
+}

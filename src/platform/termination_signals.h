@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QObject>
+
+/// Turns SIGTERM, SIGINT and SIGHUP into a signal of the event loop, so that the program ends
+/// cleanly with everything stored. One instance; the handlers stay until it is destroyed.
+class TerminationSignals final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit TerminationSignals(QObject* parent = nullptr);
+    ~TerminationSignals() override;
+
+signals:
+    void terminationRequested();
+};
