@@ -2,6 +2,8 @@
 
 #include <functional>
 
+#include <QList>
+
 #include "state/item_record.h"
 
 /// The ordered array of item records. Display order is list order.
@@ -12,6 +14,8 @@
 class ItemList {
 public:
     ItemList() = default;
+    static ItemList fromVariantList(const QVariantList& values);
+    QVariantList toVariantList() const;
 
     qsizetype size() const;
     bool isEmpty() const;
@@ -27,6 +31,21 @@ public:
     /// Sorts by `fileTitle`, plain UTF-16 comparison; records of equal titles in any order.
     void sortByTitle(bool ascending);
     void forEach(const std::function<void(const ItemRecord&)>& visitor) const;
+
+    /// Equality of the records in their order; quick for lists that share their content.
+    bool operator==(const ItemList& other) const;
+
+private:
+    /// A run of records that lists share as a whole.
+    struct Block {
+        qsizetype start = 0;
+        QList<ItemRecord> records;
+    };
+
+    qsizetype blockOf(qsizetype index) const;
+    void renumber();
+
+    QList<Block> blocks_;  // none of them empty
 };
 
 Q_DECLARE_METATYPE(ItemList)

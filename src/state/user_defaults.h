@@ -52,4 +52,17 @@ public:
 signals:
     /// problem() has changed: a save failed, or one succeeded again.
     void problemChanged();
+
+private:
+    struct Store;
+
+    void load();
+    bool protectOldFile();
+    void changed();
+    void startSave();
+    void finishSave(const QString& reason);
+    void setSaveProblem(const QString& problem);
+    QString backupFile() const;
+
+    const std::unique_ptr<Store> store_;
 };

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QLatin1StringView>
+#include <QString>
+
+/// The keys of the store that are used as they are. Their spelling is forever.
+inline constexpr QLatin1StringView itemListKey{"fileListView_List"};
+inline constexpr QLatin1StringView passwordKey{"password"};
+inline constexpr QLatin1StringView requirePasswordKey{"requirePassword"};
+
+/// The four boolean preferences, all off when absent. Their keys go through a localisation table.
+enum class Preference {
+    MakeVisibleAtLaunch,
+    MakeInvisibleOnQuit,
+    OpenOnDoubleClick,
+    AlternatingRowColors,
+};
+
+/// The table that resolves the preference keys wherever no other is named.
+inline constexpr QLatin1StringView preferenceTable{"RDTwoWindowController"};
+
+/// The name of the preference, before it is resolved.
+QString preferenceName(Preference preference);
+
+/// The key of the store: the text for the preference's name in the localisation table (the
+/// translation context of that name), or the name itself when the table has no entry.
+QString resolvedPreferenceKey(Preference preference, const QString& table = preferenceTable);
+
+/// The truth reading of what the standard user defaults hold for the preference.
+bool preference(Preference preference, const QString& table = preferenceTable);
+
+/// Stores the preference as a boolean.
+void setPreference(Preference preference, bool on);
