@@ -1,0 +1,130 @@
+#include "app/app_delegate.h"
+
+#include <QMessageBox>
+
+#include "app/about_panel_controller.h"
+#include "app/help_address.h"
+#include "app/rd_show_message_text_window_controller.h"
+#include "platform/application.h"
+#include "platform/notification_center.h"
+#include "platform/notification_names.h"
+#include "platform/workspace.h"
+#include "preferences/rd_two_window_controller.h"
+#include "ui_Main.h"
+
+namespace {
+
+void post(const QString& name, const QVariantMap& userInfo = {}) {
+    NotificationCenter::defaultCenter().postNotification(name, userInfo);
+}
+
+void showDocument(bool licenseAgreement) {
+    RDShowMessageTextWindowController controller;
+    controller.licenseAgreement = licenseAgreement;
+    controller.ackNowleDgments = !licenseAgreement;
+    Application::runModalForWindow(controller.window());
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate(const Ui::Main& outlets, QObject* parent)
+    : QObject(parent), outlets_(outlets) {
+    connectActions();
+}
+
+void AppDelegate::connectActions() {
+    using Command = void (AppDelegate::*)(QAction*);
+    const std::pair<QAction*, Command> commands[] = {
+        {outlets_.addMenuItem, &AppDelegate::addmeaunItem_touch},
+        {outlets_.hideMenuItem, &AppDelegate::hidemeaunItem_touch},
+        {outlets_.openMenuItem, &AppDelegate::openmeaunItem_touch},
+        {outlets_.removeMenuItem, &AppDelegate::removemeaunItem_touch},
+        {outlets_.revealInFinderMenuItem, &AppDelegate::revealInFinderMenuItem_touch},
+        {outlets_.closeMenuItem, &AppDelegate::closemeaunItem_touch},
+        {outlets_.passwordMeunItem, &AppDelegate::changePasswordAction},
+        {outlets_.preferenceMenuItem, &AppDelegate::preferencesAction},
+        {outlets_.aboutVelmoraMenuItem, &AppDelegate::ordeAboutPanelAction},
+        {outlets_.ackNowleDgmentsMenuItem, &AppDelegate::ackNowleDgments_touch},
+        {outlets_.licenseAgreementMenuItem, &AppDelegate::licenseAgreement_touch},
+        {outlets_.checkforUpdatesMenuItem, &AppDelegate::checkForUpdates},
+        {outlets_.velmoraHelpMenuItem, &AppDelegate::help},
+    };
+    for (const auto& [action, command] : commands) {
+        connect(action, &QAction::triggered, this,
+                [this, action = action, command = command] { (this->*command)(action); });
+    }
+    // Qt has flipped the check mark before it reports the choice; give hide_info() the state that
+    // the user saw.
+    connect(outlets_.hideInfoMenuItem, &QAction::triggered, this, [this](bool flipped) {
+        outlets_.hideInfoMenuItem->setChecked(!flipped);
+        hide_info(outlets_.hideInfoMenuItem);
+    });
+}
+
+void AppDelegate::addmeaunItem_touch(QAction* /*sender*/) {
+    post(notification_names::addItem, {{QStringLiteral("add"), true}});
+}
+
+void AppDelegate::hidemeaunItem_touch(QAction* /*sender*/) {
+    post(notification_names::hideItem);
+}
+
+void AppDelegate::openmeaunItem_touch(QAction* /*sender*/) {
+    post(notification_names::openItem);
+}
+
+void AppDelegate::removemeaunItem_touch(QAction* /*sender*/) {
+    post(notification_names::removeItem);
+}
+
+void AppDelegate::revealInFinderMenuItem_touch(QAction* /*sender*/) {
+    post(notification_names::revealInFinder);
+}
+
+void AppDelegate::closemeaunItem_touch(QAction* /*sender*/) {
+    post(notification_names::closeItem);
+}
+
+void AppDelegate::hide_info(QAction* sender) {
+    const bool hidden = sender->isChecked();
+    sender->setChecked(!hidden);
+    post(notification_names::showOrHideInformation, {{QStringLiteral("hidden"), hidden}});
+}
+
+void AppDelegate::changePasswordAction(QAction* /*sender*/) {
+    post(notification_names::changePasswordItem);
+}
+
+void AppDelegate::preferencesAction(QAction* /*sender*/) {
+    RDTwoWindowController controller;
+    controller.setting = true;
+    controller.settingH = true;
+    Application::runModalForWindow(controller.window());
+}
+
+void AppDelegate::ordeAboutPanelAction(QAction* /*sender*/) {
+    AboutPanelController controller;
+    Application::runModalForWindow(controller.window());
+}
+
+void AppDelegate::ackNowleDgments_touch(QAction* /*sender*/) {
+    showDocument(false);
+}
+
+void AppDelegate::licenseAgreement_touch(QAction* /*sender*/) {
+    showDocument(true);
+}
+
+void AppDelegate::checkForUpdates(QAction* /*sender*/) {
+    QMessageBox alert(QApplication::activeWindow());
+    alert.setIcon(QMessageBox::Information);
+    alert.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    alert.setText(QStringLiteral("You're up-to-date."));
+    alert.setInformativeText(
+        QStringLiteral("Velmora v1.5 is currently the newest version available."));
+    alert.exec();
+}
+
+void AppDelegate::help(QAction* /*sender*/) {
+    Workspace::shared().openUrl(helpAddress);
+}

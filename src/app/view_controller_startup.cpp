@@ -1,0 +1,209 @@
+#include <QLabel>
+#include <QMainWindow>
+#include <QTimer>
+
+#include "app/app_delegate.h"
+#include "app/view_controller.h"
+#include "controls/rd_custom_button.h"
+#include "hiding/command_lines.h"
+#include "platform/application.h"
+#include "platform/bundle.h"
+#include "platform/file_attributes.h"
+#include "platform/notification_center.h"
+#include "platform/notification_names.h"
+#include "platform/shell.h"
+#include "state/preference_keys.h"
+#include "state/readings.h"
+#include "state/user_defaults.h"
+#include "ui_Main.h"
+
+namespace {
+
+constexpr int passwordPromptDelay = 1000;  // milliseconds
+constexpr QColor introductionColor{184, 184, 184};
+
+}  // namespace
+
+ViewController::ViewController(QMainWindow* window, AppDelegate& delegate, OpenPanel openPanel)
+    : window_(window),
+      delegate_(delegate),
+      ui_(delegate.outlets()),
+      openPanel_(std::move(openPanel)),
+      informationPane_(ui_),
+      quietLine_(ui_.quietLine) {}
+
+ViewController::~ViewController() {
+    // Two names are left in place; an observer that is gone is never called.
+    for (const QString& name :
+         {notification_names::showOrHideInformation, notification_names::verifyPassword,
+          notification_names::changePassword, notification_names::addItem,
+          notification_names::hideItem, notification_names::openItem,
+          notification_names::removeItem, notification_names::closeItem}) {
+        NotificationCenter::defaultCenter().removeObserver(this, name);
+    }
+    ui_.fileListView->setDelegate(nullptr);
+}
+
+void ViewController::viewDidLoad() {
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    dressWindow();
+    addNotification();
+    addLocal();
+    launchReveal();
+
+    const QString password = defaults.objectForKey(passwordKey).toString();
+    ui_.requirePassword->setState(password.isEmpty() ? 0 : 1);
+    ui_.textScrollCiew->viewport()->setAutoFillBackground(false);
+    for (QWidget* line : {ui_.fileListViewRightLine, ui_.fileListViewBottomLine,
+                          ui_.itemInfomationLine}) {
+        line->setStyleSheet(QStringLiteral("background-color: black"));
+    }
+    ui_.fileListView->setDelegate(this);
+    ui_.fileListView->setCanDragDrop(canEditorItem());
+    ui_.requirePassword->setState(
+        password.isEmpty() ? 0 : integerReading(defaults.objectForKey(requirePasswordKey)));
+    dropMissingItems();
+
+    if (ui_.fileListView->canDragDrop()) {
+        loadList();
+    } else if (!password.isEmpty()) {
+        QTimer::singleShot(passwordPromptDelay, this, [this] { inputRequire_password(nullptr); });
+    }
+    const bool empty = ui_.fileListView->count() == 0;
+    ui_.customInfoView->setHidden(empty);
+    ui_.textScrollCiew->setHidden(!empty);
+
+    QPalette introduction = ui_.textView->palette();
+    introduction.setColor(QPalette::WindowText, introductionColor);
+    ui_.textView->setPalette(introduction);
+    ui_.textView->setText(
+        Bundle::localizedString(QStringLiteral("textViewTitle"), QStringLiteral("Main")));
+    updatePasswordCommand();
+    connectControls();
+}
+
+void ViewController::launchReveal() {
+    // The one place that resolves the preference in the table "Main".
+    if (!preference(Preference::MakeVisibleAtLaunch, QStringLiteral("Main"))) {
+        return;
+    }
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    std::optional<ItemList> list = defaults.itemList();
+    if (!list) {
+        return;
+    }
+    for (qsizetype index = list->size() - 1; index >= 0; --index) {
+        ItemRecord record = list->at(index);
+        Shell::run(command_lines::show(record.filePath()));
+        record.setVisible(VisibleForm::StringOne);
+        list->replace(index, record);
+    }
+    // Saved to the file together with what dropMissingItems() leaves, in the same turn.
+    defaults.setItemList(list);
+}
+
+void ViewController::dropMissingItems() {
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    std::optional<ItemList> list = defaults.itemList();
+    if (list) {
+        list->removeIf([](const ItemRecord& record) { return !fileExists(record.filePath()); });
+    }
+    defaults.setItemList(list);
+}
+
+void ViewController::loadList() {
+    DragDropView* list = ui_.fileListView;
+    list->setFileLists(UserDefaults::standardUserDefaults().itemList());
+    list->topViw()->activateLeftButton();
+    list->reloadData();
+    list->selectTableViewCellForRowIndex(0);
+}
+
+void ViewController::dressWindow() {
+    const auto image = [](const char* name) { return Bundle::imageNamed(QLatin1String(name)); };
+    const auto mainText = [](const char* key) {
+        return Bundle::localizedString(QLatin1String(key), QStringLiteral("Main"));
+    };
+    // Pane and bar lie on a light backdrop whatever the desktop's palette is.
+    QPalette onBackdrop(QColor(222, 225, 229), QColor(185, 190, 197));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        onBackdrop.setColor(QPalette::Active, role, QColor(20, 24, 29));
+        onBackdrop.setColor(QPalette::Inactive, role, QColor(20, 24, 29));
+        onBackdrop.setColor(QPalette::Disabled, role, QColor(110, 117, 125));
+    }
+    ui_.informationBackdrop->setPalette(onBackdrop);
+    ui_.bottomBar->setPalette(onBackdrop);
+    ui_.informationScroll->viewport()->setAutoFillBackground(false);
+    ui_.customInfoView->setAutoFillBackground(false);
+    ui_.invitation->setAutoFillBackground(false);
+    // Drops and clicks on the invitation are meant for the list beneath it.
+    ui_.textScrollCiew->setAttribute(Qt::WA_TransparentForMouseEvents);
+    ui_.textScrollCiew->setAcceptDrops(false);
+    ui_.invitationPicture->setPixmap(
+        image("drop").pixmap(QSize(96, 96), ui_.invitationPicture->devicePixelRatioF()));
+
+    QFont titleFont = ui_.filleTitle->font();
+    titleFont.setBold(true);
+    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.2);
+    ui_.filleTitle->setFont(titleFont);
+
+    ui_.hiddenCaption->setText(mainText("L5h-mo-cYT.title"));
+    ui_.visibleCaption->setText(mainText("lEi-kk-qD3.title"));
+    ui_.addButton->setIcon(image("add"));
+    ui_.addButton->setIconSize({20, 20});
+    ui_.addButton->setToolTip(mainText("addMenuItem"));
+    ui_.settingButton->setIcon(image("settings"));
+    ui_.settingButton->setIconSize({24, 24});
+    ui_.settingButton->setToolTip(mainText("preferenceMenuItem"));
+
+    QIcon protection;
+    protection.addPixmap(image("protection-off").pixmap(QSize(84, 44)), QIcon::Normal, QIcon::Off);
+    protection.addPixmap(image("protection-on").pixmap(QSize(84, 44)), QIcon::Normal, QIcon::On);
+    ui_.requirePassword->setIcon(protection);
+    ui_.requirePassword->setIconSize({42, 22});
+    QIcon triangle;
+    triangle.addPixmap(image("disclosure-closed").pixmap(QSize(24, 24)), QIcon::Normal, QIcon::Off);
+    triangle.addPixmap(image("disclosure-open").pixmap(QSize(24, 24)), QIcon::Normal, QIcon::On);
+    ui_.sanjiao->setIcon(triangle);
+    ui_.sanjiao->setIconSize({12, 12});
+    ui_.sanjiao->setAttribute(Qt::WA_TransparentForMouseEvents);
+    const QString flat = QStringLiteral(
+        "QPushButton, QToolButton { border: 1px solid transparent; border-radius: 4px;"
+        " padding: 3px; background: transparent; text-align: left; color: #14181d; }"
+        "QPushButton:focus, QToolButton:focus { border: 2px solid #015cdc; padding: 2px; }"
+        "QPushButton:pressed, QToolButton:pressed { background: rgba(0, 0, 0, 40); }");
+    for (QWidget* button : std::initializer_list<QWidget*>{ui_.dianjibutton, ui_.requirePassword,
+                                                           ui_.sanjiao, ui_.settingButton}) {
+        button->setStyleSheet(flat);
+    }
+    ui_.addButton->setStyleSheet(QStringLiteral(
+        "QToolButton { border: 1px solid #8a929c; border-radius: 5px; padding: 3px;"
+        " background: #f4f5f7; }"
+        "QToolButton:hover { background: #ffffff; } QToolButton:pressed { background: #d5d9de; }"
+        "QToolButton:focus { border: 2px solid #015cdc; padding: 2px; }"));
+}
+
+void ViewController::connectControls() {
+    connect(ui_.switchButton, &RDSwitchButton::clicked, this,
+            [this] { touchSwitch(ui_.switchButton); });
+    connect(ui_.dianjibutton, &RdCustomButton::clicked, this,
+            [this] { touchEvent(ui_.dianjibutton); });
+    connect(ui_.requirePassword, &RdCustomButton::clicked, this,
+            [this] { require_password(ui_.requirePassword); });
+    connect(ui_.addButton, &QToolButton::clicked, this, [this] { addfileList(ui_.addButton); });
+    connect(ui_.settingButton, &QToolButton::clicked, this, &ViewController::settingButtonTouch);
+
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    const auto showProblem = [this, &defaults] {
+        quietLine_.say(QuietLine::Store, defaults.problem());
+    };
+    connect(&defaults, &UserDefaults::problemChanged, this, showProblem);
+    showProblem();
+    connect(ui_.fileListView, &DragDropView::dropRefused, this,
+            [this](const QString& text) { quietLine_.say(QuietLine::Drop, text); });
+    if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
+        // A handler that failed may have changed the list in memory: show what is there.
+        connect(application, &Application::exceptionReported, this,
+                [this] { ui_.fileListView->tableView()->reloadData(); });
+    }
+}

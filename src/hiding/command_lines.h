@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+/// The complete set of command lines that the program hands to the shell. A path goes in exactly
+/// as it is stored, with no escaping of any kind.
+namespace command_lines {
+
+inline const QString readShowAll =
+    QStringLiteral("defaults read com.apple.finder AppleShowAllFiles");
+inline const QString writeShowAllNo =
+    QStringLiteral("defaults write com.apple.finder AppleShowAllFiles NO");
+inline const QString restartFinder = QStringLiteral("killall Finder");
+
+/// The switch and the launch reveal put the path in single quotes, and nothing more.
+inline QString show(const QString& path) {
+    return QStringLiteral("chflags nohidden '") + path + u'\'';
+}
+inline QString hide(const QString& path) {
+    return QStringLiteral("chflags hidden '") + path + u'\'';
+}
+/// The quit pass leaves the quotes away; the difference is deliberate.
+inline QString hideAtQuit(const QString& path) {
+    return QStringLiteral("chflags hidden ") + path;
+}
+
+}  // namespace command_lines

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QList>
+
+class ItemRecord;
+class QLabel;
+class QWidget;
+namespace Ui {
+class Main;
+}
+
+/// The information pane: icon, title, kind, place, size and dates of one item.
+class InformationPane {
+public:
+    /// `outlets`: the loaded interface file "Main"; must outlive the pane.
+    explicit InformationPane(const Ui::Main& outlets);
+
+    /// Fills the pane with what is known of the record's item. Of an item that no longer exists
+    /// type and dates stay empty and the size reads zero.
+    void showItem(const ItemRecord& record);
+    void clear();
+
+    /// Folds the ten labels away, or brings them back; icon and title stay.
+    void setLabelsHidden(bool hidden);
+
+private:
+    const Ui::Main& outlets_;
+};
