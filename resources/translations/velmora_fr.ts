@@ -1,0 +1,312 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>Main</name>
+    <message>
+        <source>uQy-DD-JDr.title</source>
+        <translation>Velmora</translation>
+    </message>
+    <message>
+        <source>textViewTitle</source>
+        <translation>Glissez ici des fichiers et des dossiers
+depuis votre gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>lEi-kk-qD3.title</source>
+        <translation>Visible</translation>
+    </message>
+    <message>
+        <source>L5h-mo-cYT.title</source>
+        <translation>Masqué</translation>
+    </message>
+    <message>
+        <source>searchTitle</source>
+        <translation>search</translation>
+    </message>
+    <message>
+        <source>removeTitle</source>
+        <translation>remove</translation>
+    </message>
+    <message>
+        <source>fileTitle</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>editTitle</source>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>viewTitle</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
+        <source>windowTitle</source>
+        <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>helpTitle</source>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>hideMenuItem</source>
+        <translation>Masquer</translation>
+    </message>
+    <message>
+        <source>addMenuItem</source>
+        <translation>Ajouter…</translation>
+    </message>
+    <message>
+        <source>openMenuItem</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>removeMenuItem</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>closeMenuItem</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>revealInFinderMenuItem</source>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>aboutVelmoraMenuItem</source>
+        <translation>À propos de Velmora</translation>
+    </message>
+    <message>
+        <source>preferenceMenuItem</source>
+        <translation>Préférences…</translation>
+    </message>
+    <message>
+        <source>checkforUpdatesMenuItem</source>
+        <translation>Rechercher les mises à jour…</translation>
+    </message>
+    <message>
+        <source>hideVelmoraMenuItem</source>
+        <translation>Masquer Velmora</translation>
+    </message>
+    <message>
+        <source>hideOthersMenuItem</source>
+        <translation>Masquer les autres</translation>
+    </message>
+    <message>
+        <source>showAllMenuItem</source>
+        <translation>Tout afficher</translation>
+    </message>
+    <message>
+        <source>quitVelmoraMenuItem</source>
+        <translation>Quitter Velmora</translation>
+    </message>
+    <message>
+        <source>serviceMenuItem</source>
+        <translation>Services</translation>
+    </message>
+    <message>
+        <source>undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message>
+        <source>delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>selectAll</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>hideInfo</source>
+        <translation>Afficher les infos de l’élément</translation>
+    </message>
+    <message>
+        <source>minimize</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>zoom</source>
+        <translation>Agrandir</translation>
+    </message>
+    <message>
+        <source>bringAllToFront</source>
+        <translation>Tout ramener au premier plan</translation>
+    </message>
+    <message>
+        <source>velmoraHelp</source>
+        <translation>Aide Velmora</translation>
+    </message>
+    <message>
+        <source>licenseAgreement</source>
+        <translation>Contrat de licence</translation>
+    </message>
+    <message>
+        <source>ackNowleDgments</source>
+        <translation>Remerciements</translation>
+    </message>
+    <message>
+        <source>inPasswordMeunItem</source>
+        <translation>Changer le mot de passe…</translation>
+    </message>
+    <message>
+        <source>unPasswordMeunItem</source>
+        <translation>Définir un mot de passe…</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>Type :</translation>
+    </message>
+    <message>
+        <source>Where:</source>
+        <translation>Emplacement :</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>Création :</translation>
+    </message>
+    <message>
+        <source>Modified:</source>
+        <translation>Modification :</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>Visible</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Masqué</translation>
+    </message>
+    <message>
+        <source>Password protection</source>
+        <translation>Protection par mot de passe</translation>
+    </message>
+</context>
+<context>
+    <name>RDPasswordViewController</name>
+    <message>
+        <source>1.title</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>1.titleChange</source>
+        <translation>Changer le mot de passe</translation>
+    </message>
+    <message>
+        <source>cancelTitle</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>saveTitle</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>1.alertButtonTitle</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>appImageName</source>
+        <translation>velmora</translation>
+    </message>
+    <message>
+        <source>lockImageName</source>
+        <translation>lock</translation>
+    </message>
+    <message>
+        <source>1.labelTitle</source>
+        <translation>Mot de passe :</translation>
+    </message>
+    <message>
+        <source>1.labelTitlenew</source>
+        <translation>Nouveau mot de passe :</translation>
+    </message>
+    <message>
+        <source>1.alertTitle</source>
+        <translation>Mot de passe incorrect</translation>
+    </message>
+    <message>
+        <source>1.messageContent</source>
+        <translation>Le mot de passe n’est pas correct. Veuillez réessayer.</translation>
+    </message>
+</context>
+<context>
+    <name>RDTwoWindowController</name>
+    <message>
+        <source>Make visible all the listed items at launch</source>
+        <translation>Rendre visibles tous les éléments de la liste au lancement</translation>
+    </message>
+    <message>
+        <source>Make invisible all the listed items on quit</source>
+        <translation>Masquer tous les éléments de la liste à la fermeture</translation>
+    </message>
+    <message>
+        <source>Make visible and open hidden items on double click</source>
+        <translation>Rendre visibles et ouvrir les éléments masqués par double-clic</translation>
+    </message>
+    <message>
+        <source>Use Alternating Colors For the Items List Rows</source>
+        <translation>Alterner les couleurs des lignes de la liste</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Général</translation>
+    </message>
+</context>
+<context>
+    <name>AboutPanelController</name>
+    <message>
+        <source>About Velmora</source>
+        <translation>À propos de Velmora</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Hides files and folders from the file manager, and shows them again.</source>
+        <translation>Masque des fichiers et des dossiers dans le gestionnaire de fichiers, et les montre à nouveau.</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 The Velmora developers</source>
+        <translation>Copyright © 2026 Les développeurs de Velmora</translation>
+    </message>
+</context>
+<context>
+    <name>RDShowMessageTextWindowController</name>
+    <message>
+        <source>Acknowledgments</source>
+        <translation>Remerciements</translation>
+    </message>
+    <message>
+        <source>License Agreement</source>
+        <translation>Contrat de licence</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,312 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>Main</name>
+    <message>
+        <source>uQy-DD-JDr.title</source>
+        <translation>Velmora</translation>
+    </message>
+    <message>
+        <source>textViewTitle</source>
+        <translation>将文件和文件夹
+从文件管理器拖到这里</translation>
+    </message>
+    <message>
+        <source>lEi-kk-qD3.title</source>
+        <translation>可见</translation>
+    </message>
+    <message>
+        <source>L5h-mo-cYT.title</source>
+        <translation>已隐藏</translation>
+    </message>
+    <message>
+        <source>searchTitle</source>
+        <translation>search</translation>
+    </message>
+    <message>
+        <source>removeTitle</source>
+        <translation>remove</translation>
+    </message>
+    <message>
+        <source>fileTitle</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>editTitle</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>viewTitle</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>windowTitle</source>
+        <translation>窗口</translation>
+    </message>
+    <message>
+        <source>helpTitle</source>
+        <translation>帮助</translation>
+    </message>
+    <message>
+        <source>hideMenuItem</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>addMenuItem</source>
+        <translation>添加…</translation>
+    </message>
+    <message>
+        <source>openMenuItem</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>removeMenuItem</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>closeMenuItem</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>revealInFinderMenuItem</source>
+        <translation>在文件管理器中显示</translation>
+    </message>
+    <message>
+        <source>aboutVelmoraMenuItem</source>
+        <translation>关于 Velmora</translation>
+    </message>
+    <message>
+        <source>preferenceMenuItem</source>
+        <translation>偏好设置…</translation>
+    </message>
+    <message>
+        <source>checkforUpdatesMenuItem</source>
+        <translation>检查更新…</translation>
+    </message>
+    <message>
+        <source>hideVelmoraMenuItem</source>
+        <translation>隐藏 Velmora</translation>
+    </message>
+    <message>
+        <source>hideOthersMenuItem</source>
+        <translation>隐藏其他</translation>
+    </message>
+    <message>
+        <source>showAllMenuItem</source>
+        <translation>全部显示</translation>
+    </message>
+    <message>
+        <source>quitVelmoraMenuItem</source>
+        <translation>退出 Velmora</translation>
+    </message>
+    <message>
+        <source>serviceMenuItem</source>
+        <translation>服务</translation>
+    </message>
+    <message>
+        <source>undo</source>
+        <translation>撤销</translation>
+    </message>
+    <message>
+        <source>redo</source>
+        <translation>重做</translation>
+    </message>
+    <message>
+        <source>cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message>
+        <source>delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>selectAll</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>hideInfo</source>
+        <translation>显示项目信息</translation>
+    </message>
+    <message>
+        <source>minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>zoom</source>
+        <translation>缩放</translation>
+    </message>
+    <message>
+        <source>bringAllToFront</source>
+        <translation>前置全部窗口</translation>
+    </message>
+    <message>
+        <source>velmoraHelp</source>
+        <translation>Velmora 帮助</translation>
+    </message>
+    <message>
+        <source>licenseAgreement</source>
+        <translation>许可协议</translation>
+    </message>
+    <message>
+        <source>ackNowleDgments</source>
+        <translation>致谢</translation>
+    </message>
+    <message>
+        <source>inPasswordMeunItem</source>
+        <translation>更改密码…</translation>
+    </message>
+    <message>
+        <source>unPasswordMeunItem</source>
+        <translation>设置密码…</translation>
+    </message>
+    <message>
+        <source>Kind:</source>
+        <translation>种类：</translation>
+    </message>
+    <message>
+        <source>Where:</source>
+        <translation>位置：</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>大小：</translation>
+    </message>
+    <message>
+        <source>Created:</source>
+        <translation>创建时间：</translation>
+    </message>
+    <message>
+        <source>Modified:</source>
+        <translation>修改时间：</translation>
+    </message>
+    <message>
+        <source>Visible</source>
+        <translation>可见</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>隐藏</translation>
+    </message>
+    <message>
+        <source>Password protection</source>
+        <translation>密码保护</translation>
+    </message>
+</context>
+<context>
+    <name>RDPasswordViewController</name>
+    <message>
+        <source>1.title</source>
+        <translation>密码</translation>
+    </message>
+    <message>
+        <source>1.titleChange</source>
+        <translation>更改密码</translation>
+    </message>
+    <message>
+        <source>cancelTitle</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>saveTitle</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>1.alertButtonTitle</source>
+        <translation>好</translation>
+    </message>
+    <message>
+        <source>appImageName</source>
+        <translation>velmora</translation>
+    </message>
+    <message>
+        <source>lockImageName</source>
+        <translation>lock</translation>
+    </message>
+    <message>
+        <source>1.labelTitle</source>
+        <translation>密码：</translation>
+    </message>
+    <message>
+        <source>1.labelTitlenew</source>
+        <translation>新密码：</translation>
+    </message>
+    <message>
+        <source>1.alertTitle</source>
+        <translation>密码错误</translation>
+    </message>
+    <message>
+        <source>1.messageContent</source>
+        <translation>密码不正确，请重试。</translation>
+    </message>
+</context>
+<context>
+    <name>RDTwoWindowController</name>
+    <message>
+        <source>Make visible all the listed items at launch</source>
+        <translation>启动时显示列表中的所有项目</translation>
+    </message>
+    <message>
+        <source>Make invisible all the listed items on quit</source>
+        <translation>退出时隐藏列表中的所有项目</translation>
+    </message>
+    <message>
+        <source>Make visible and open hidden items on double click</source>
+        <translation>双击时显示并打开隐藏的项目</translation>
+    </message>
+    <message>
+        <source>Use Alternating Colors For the Items List Rows</source>
+        <translation>列表各行使用交替颜色</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>偏好设置</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>通用</translation>
+    </message>
+</context>
+<context>
+    <name>AboutPanelController</name>
+    <message>
+        <source>About Velmora</source>
+        <translation>关于 Velmora</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>版本 %1</translation>
+    </message>
+    <message>
+        <source>Hides files and folders from the file manager, and shows them again.</source>
+        <translation>在文件管理器中隐藏文件和文件夹，并可再次显示。</translation>
+    </message>
+    <message>
+        <source>Copyright © 2026 The Velmora developers</source>
+        <translation>版权所有 © 2026 Velmora 开发者</translation>
+    </message>
+</context>
+<context>
+    <name>RDShowMessageTextWindowController</name>
+    <message>
+        <source>Acknowledgments</source>
+        <translation>致谢</translation>
+    </message>
+    <message>
+        <source>License Agreement</source>
+        <translation>许可协议</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+</context>
+</TS>
