@@ -2,6 +2,7 @@
 
 #include <QAbstractListModel>
 #include <QContextMenuEvent>
+#include <QDragEnterEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -347,4 +348,9 @@ void DragDropTableView::addColumn(const QString& identifier, const QString& titl
     bold.setBold(true);
     bold.setPointSize(50);
     tableColumns_.append({identifier, title, bold, Qt::AlignHCenter, 100, 100, true, true});
+}
+
+void DragDropTableView::dragEnterEvent(QDragEnterEvent* event) {
+    // Drops are the list view's, which the event goes on to.
+    event->ignore();
 }

@@ -8,6 +8,7 @@
 #include "list/list_cell.h"
 #include "state/item_list.h"
 
+class QDragEnterEvent;
 class QToolButton;
 struct Notification;
 class TableRowsModel;
@@ -98,7 +99,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
-    void dragEnterEvent(QDragEnterEvent* event) override { event->ignore(); }
+    void dragEnterEvent(QDragEnterEvent* event) override;
 
 private:
     int rowAt(const QPoint& position) const;

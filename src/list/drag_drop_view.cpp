@@ -18,7 +18,7 @@ constexpr QColor currentRowColor{1, 92, 220};
 constexpr QColor evenRowColor{255, 255, 255};
 constexpr QColor oddRowColor{245, 245, 245};
 
-bool isVisible(const ItemRecord& record) {
+bool isShown(const ItemRecord& record) {
     return integerReading(record.visible()) == 1;
 }
 
@@ -29,6 +29,11 @@ DragDropView::DragDropView(QWidget* parent)
     NotificationCenter::defaultCenter().addObserver(this, &DragDropView::changeCellData,
                                                     notification_names::changeCellData);
     setAcceptDrops(true);
+    // The header's buttons leave its last line free: there the grey ground shows as a line.
+    QPalette ground = palette();
+    ground.setColor(QPalette::Window, QColor(128, 128, 128));
+    setPalette(ground);
+    setAutoFillBackground(true);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -130,7 +135,7 @@ void DragDropView::doubleClick() {
     }
     // No check on the row: a double-click below the last one is an index outside the list.
     const ItemRecord record = fileLists_.value_or(ItemList()).at(tableView_->clickedRow());
-    if (isVisible(record)) {
+    if (isShown(record)) {
         Workspace::shared().openFile(record.filePath());
     }
 }
@@ -197,7 +202,7 @@ std::shared_ptr<ListCell> DragDropView::viewForRow(int row) const {
     cell->delegate = const_cast<DragDropView*>(this);
     cell->rowIndex = row;
     cell->filePath = path;
-    cell->setSelected(isVisible(record));
+    cell->setSelected(isShown(record));
     cell->setCellIcon(Workspace::shared().iconForFile(path));
     cell->setCellTitle(record.fileTitle());
     return cell;

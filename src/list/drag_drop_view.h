@@ -106,10 +106,10 @@ public:
     QString titleOfRow(int row) const override;
 
     /// The drag shows the copy cursor, whatever it carries.
-    Qt::DropAction draggingEntered(const QMimeData* data) const;
-    Qt::DropAction draggingUpdated(const QMimeData* data) const { return draggingEntered(data); }
+    Qt::DropAction draggingEntered(const QMimeData* mimeData) const;
+    Qt::DropAction draggingUpdated(const QMimeData* mimeData) const { return draggingEntered(mimeData); }
     /// The whole drop; the records are in place when it returns. False when drops are refused.
-    bool prepareForDragOperation(const QMimeData* data);
+    bool prepareForDragOperation(const QMimeData* mimeData);
 
 signals:
     /// Some of what was dropped could not be taken: `text` says why, for the quiet line.

@@ -66,17 +66,17 @@ void DropWalk::drop(const QString& path) {
     list_.append(ItemRecord::forPath(path, VisibleForm::StringOne));
 }
 
-Qt::DropAction DragDropView::draggingEntered(const QMimeData* data) const {
+Qt::DropAction DragDropView::draggingEntered(const QMimeData* mimeData) const {
     // The answer is not looked at: every drag shows the copy cursor.
-    [[maybe_unused]] const bool files = data->hasUrls();
+    [[maybe_unused]] const bool files = mimeData->hasUrls();
     return Qt::CopyAction;
 }
 
-bool DragDropView::prepareForDragOperation(const QMimeData* data) {
+bool DragDropView::prepareForDragOperation(const QMimeData* mimeData) {
     if (!canDragDrop_) {
         return false;
     }
-    const DroppedPaths dropped = droppedPaths(data);
+    const DroppedPaths dropped = droppedPaths(mimeData);
     if (!fileLists_) {
         fileLists_.emplace();
     }

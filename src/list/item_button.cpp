@@ -10,6 +10,7 @@ namespace {
 constexpr int statusTag = 2;
 constexpr int arrowSide = 10;
 constexpr int arrowInset = 20;
+constexpr QColor lineColor{128, 128, 128};
 
 }  // namespace
 
@@ -75,9 +76,9 @@ void ItemButton::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), isDown() ? mouseEnteredColor_.darker(110) : backgroundColor_);
     // The line under the title lies just beyond the height that is drawn, so that it shows only
     // where the header gives it room.
-    painter.fillRect(0, height() + 1, width(), 1, Qt::gray);
+    painter.fillRect(0, height() + 1, width(), 1, lineColor);
     if (tag_ == statusTag) {
-        painter.fillRect(0, 0, 1, height(), Qt::gray);
+        painter.fillRect(0, 0, 1, height(), lineColor);
     }
     painter.setPen(Qt::black);
     const int ascentRoom = (height() - fontMetrics().height()) / 2;

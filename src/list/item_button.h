@@ -36,7 +36,7 @@ private:
     QString title() const;
     void updateDescription();
 
-    QColor mouseEnteredColor_{Qt::lightGray};
+    QColor mouseEnteredColor_{170, 170, 170};
     QColor mouseExitedColor_{Qt::white};
     QColor backgroundColor_ = mouseExitedColor_;
     int tag_ = 0;

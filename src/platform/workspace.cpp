@@ -20,22 +20,28 @@ QString bundledIconName(const QMimeType& type) {
     if (name == QLatin1String("inode/directory")) {
         return QStringLiteral("folder");
     }
-    if (name == QLatin1String("application/pdf") ||
-        type.genericIconName() == QLatin1String("x-office-document")) {
-        return QStringLiteral("document");
+    if (name == QLatin1String("application/pdf")) {
+        return QStringLiteral("file-pdf");
     }
-    if (type.genericIconName() == QLatin1String("package-x-generic")) {
-        return QStringLiteral("archive");
+    const QString generic = type.genericIconName();
+    if (generic.startsWith(QLatin1String("x-office-"))) {
+        return QStringLiteral("file-document");
     }
-    if (type.genericIconName() == QLatin1String("application-x-executable")) {
-        return QStringLiteral("executable");
+    if (generic == QLatin1String("package-x-generic")) {
+        return QStringLiteral("file-archive");
+    }
+    if (generic == QLatin1String("application-x-executable")) {
+        return QStringLiteral("file-executable");
     }
     const QString family = name.section(u'/', 0, 0);
     if (family == QLatin1String("image") || family == QLatin1String("audio") ||
-        family == QLatin1String("video") || family == QLatin1String("text")) {
-        return family;
+        family == QLatin1String("video")) {
+        return QStringLiteral("file-") + family;
     }
-    return type.inherits(QStringLiteral("text/plain")) ? QStringLiteral("text")
+    if (generic == QLatin1String("text-x-script") || name.startsWith(QLatin1String("text/x-"))) {
+        return QStringLiteral("file-code");
+    }
+    return type.inherits(QStringLiteral("text/plain")) ? QStringLiteral("file-text")
                                                        : QStringLiteral("file");
 }
 

@@ -1,0 +1,142 @@
+#include "password/rd_password_view_controller.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "platform/bundle.h"
+#include "platform/notification_center.h"
+#include "platform/notification_names.h"
+#include "state/preference_keys.h"
+#include "state/user_defaults.h"
+#include "ui_RDPasswordViewController.h"
+
+namespace {
+
+QString text(const char* key) {
+    return Bundle::localizedString(QLatin1String(key), QStringLiteral("RDPasswordViewController"));
+}
+
+// Exact equality; a password that is not stored equals nothing, not even an empty text.
+bool equalsStoredPassword(const QString& typed) {
+    const QVariant stored = UserDefaults::standardUserDefaults().objectForKey(passwordKey);
+    return stored.typeId() == QMetaType::QString && stored.toString() == typed;
+}
+
+void postChangePassword(const QVariantMap& userInfo) {
+    NotificationCenter::defaultCenter().postNotification(notification_names::changePassword,
+                                                         userInfo);
+}
+
+}  // namespace
+
+RDPasswordViewController::RDPasswordViewController(QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::RDPasswordViewController>()) {
+    ui_->setupUi(this);
+    setWindowModality(Qt::ApplicationModal);
+    connect(ui_->yanzhengSave, &QPushButton::clicked, this, &RDPasswordViewController::save);
+    connect(ui_->yanzhengCancel, &QPushButton::clicked, this, &RDPasswordViewController::cancel);
+}
+
+RDPasswordViewController::~RDPasswordViewController() = default;
+
+void RDPasswordViewController::showEvent(QShowEvent* event) {
+    if (!loaded_) {
+        loaded_ = true;
+        viewDidLoad();
+    }
+    ui_->passwordFilde->setFocus(Qt::OtherFocusReason);
+    QDialog::showEvent(event);
+}
+
+void RDPasswordViewController::viewDidLoad() {
+    constexpr QSize pictureSize(64, 64);
+    setWindowTitle(text("1.title"));
+    ui_->yanzhengCancel->setText(text("cancelTitle"));
+    ui_->yanzhengSave->setText(text("saveTitle"));
+    ui_->appIconView->setPixmap(
+        Bundle::imageNamed(text("appImageName")).pixmap(pictureSize, devicePixelRatioF()));
+    ui_->velmoraImageView->setPixmap(
+        Bundle::imageNamed(text("lockImageName")).pixmap(pictureSize, devicePixelRatioF()));
+    ui_->passwordTitle->setText(text("1.labelTitle"));
+    if (setPassword) {
+        ui_->yanzhengSave->setText(text("1.alertButtonTitle"));
+        if (setNewPassword) {
+            setWindowTitle(text("1.titleChange"));
+            ui_->passwordTitle->setText(text("1.labelTitlenew"));
+        }
+    } else if (!yanzheng) {
+        ui_->yanzhengCancel->setVisible(true);
+        ui_->yanzhengSave->setText(text("1.alertButtonTitle"));
+        ui_->yanzhengSave->setDefault(true);
+    } else {
+        ui_->yanzhengSave->setText(text("1.alertButtonTitle"));
+    }
+    ui_->passwordFilde->setAccessibleName(ui_->passwordTitle->text());
+}
+
+void RDPasswordViewController::save() {
+    touchDownSave_ = true;
+    if (!setPassword && yanzheng) {
+        verify();
+        return;
+    }
+    saveNewPassword();
+    dismissController();
+}
+
+void RDPasswordViewController::saveNewPassword() {
+    const QString typed = ui_->passwordFilde->text();
+    if (typed.isEmpty()) {
+        return;
+    }
+    QVariantMap userInfo{{QStringLiteral("passwordvalue"), typed},
+                         {QStringLiteral("yanzheng"), yanzheng}};
+    if (setPassword) {
+        userInfo.insert(QStringLiteral("save"), true);
+    }
+    // The report goes out first; its observer does not read the stored password here.
+    postChangePassword(userInfo);
+    UserDefaults::standardUserDefaults().setObject(typed, passwordKey);
+}
+
+void RDPasswordViewController::verify() {
+    const QString typed = ui_->passwordFilde->text();
+    if (!equalsStoredPassword(typed)) {
+        QMessageBox alert(this);
+        alert.setIcon(QMessageBox::Warning);
+        alert.setText(text("1.alertTitle"));
+        alert.setInformativeText(u'\n' + text("1.messageContent"));
+        alert.addButton(text("1.alertButtonTitle"), QMessageBox::AcceptRole);
+        alert.exec();
+        ui_->passwordFilde->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+    postChangePassword({{QStringLiteral("passwordvalue"), typed}});
+    dismissController();
+}
+
+void RDPasswordViewController::cancel() {
+    QVariantMap userInfo{{QStringLiteral("passwordvalue"), ui_->passwordFilde->text()},
+                         {QStringLiteral("yanzheng"), yanzheng}};
+    if (setPassword) {
+        userInfo.insert(QStringLiteral("changePassword"), setPassword);
+    }
+    postChangePassword(userInfo);
+    dismissController();
+}
+
+void RDPasswordViewController::dismissController() {
+    if (dismissed_) {
+        return;
+    }
+    dismissed_ = true;
+    viewWillDisappear();
+    done(Accepted);
+}
+
+void RDPasswordViewController::viewWillDisappear() {
+    NotificationCenter::defaultCenter().postNotification(
+        notification_names::verifyPassword,
+        {{QStringLiteral("yanzheng"), equalsStoredPassword(ui_->passwordFilde->text())},
+         {QStringLiteral("save"), touchDownSave_}});
+}
