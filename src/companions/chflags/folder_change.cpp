@@ -11,6 +11,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include "fat_attributes.h"
 #include "file_descriptor.h"
 #include "hidden_file.h"
 
@@ -102,12 +103,14 @@ void changeItems(std::span<Item* const> items, bool hidden) {
     const bool anyChanged = std::find(changed.begin(), changed.end(), true) != changed.end();
     const int error = anyChanged ? file.save() : 0;
 
+    const FatAttributes attributes(folder.get());
     for (std::size_t i = 0; i < found.size(); ++i) {
         Item& item = *found[i].item;
         if (changed[i] && error != 0) {
             item.problem = problemOfList(error);
             continue;
         }
+        attributes.setHidden(item.name.c_str(), found[i].mode, hidden);
         if (changed[i])
             raiseAttributeEvent(folder.get(), item.name.c_str());
     }
