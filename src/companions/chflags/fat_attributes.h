@@ -1,0 +1,20 @@
+#pragma once
+
+#include <sys/types.h>
+
+/// The hidden bit that FAT, exFAT and NTFS keep with each file and folder, by which other systems
+/// know what not to show. It comes besides the list, so nothing here ever fails loudly.
+class FatAttributes final {
+public:
+    /// Finds out what the folder's file system has; nothing on an ordinary one.
+    explicit FatAttributes(int folder);
+
+    /// Sets or clears the bit of an item in the folder; its other bits stay. `mode` is the item's.
+    void setHidden(const char* name, mode_t mode, bool hidden) const;
+
+private:
+    enum class Way { None, Ioctl, ExtendedAttribute };
+
+    int folder_;
+    Way way_ = Way::None;
+};

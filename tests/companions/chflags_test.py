@@ -1,0 +1,305 @@
+"""Drives the real chflags as a process: chflags_test.py COMMAND [unittest arguments]"""
+import ctypes, errno, fcntl, os, random, resource, shutil, stat, subprocess, sys, tempfile, time
+import unittest
+
+COMMAND = ""
+MARK = "user.velmora.created"
+HIDDEN_BIT = 2
+MISSING = "No such file or directory"
+
+
+def run(*arguments, status=0, says="", **options):
+    done = subprocess.run([COMMAND, *arguments], capture_output=True, timeout=60, **options)
+    assert (done.returncode, done.stdout, os.fsdecode(done.stderr)) == (status, b"", says), done
+
+
+class Folder(unittest.TestCase):
+    def setUp(self):
+        self.enter(os.fsencode(tempfile.mkdtemp(prefix="chflags-test-")))
+        self.addCleanup(shutil.rmtree, self.folder)
+        os.chmod(self.folder, 0o755)
+
+    def enter(self, folder):
+        self.folder, self.list = folder, os.path.join(folder, b".hidden")
+
+    def make(self, *names, content=b""):
+        for name in names:
+            with open(os.path.join(self.folder, name), "wb") as file:
+                file.write(content)
+        return [os.path.join(self.folder, name) for name in names]
+
+    def read(self):
+        with open(self.list, "rb") as file:
+            return file.read()
+
+    def mount(self, *arguments, on=b"mounted"):
+        """Mounts another file system in the folder; skips where that cannot be had."""
+        point = os.path.join(self.folder, on)
+        os.mkdir(point)
+        done = subprocess.run(["mount", *arguments, point], capture_output=True, text=True)
+        if done.returncode != 0:
+            self.skipTest(done.stderr.strip())
+        self.addCleanup(subprocess.run, ["umount", point], check=True)
+        return point
+
+    def needMarks(self):
+        try:
+            os.setxattr(self.folder, MARK, b"")
+        except OSError as error:
+            self.skipTest(f"files cannot be marked here: {error}")
+
+
+class CommandLine(Folder):
+    def test_other_forms_are_errors(self):
+        item, = self.make(b"a")
+        for arguments in [], ["hidden"], ["-R", "hidden", item], ["-h"], ["--", "hidden", item]:
+            run(*arguments, status=1, says="usage: chflags hidden|nohidden file ...\n")
+        for flag in "uchg", "hide", "", "Hidden", "hidden,nohidden":
+            run(flag, item, status=1, says=f"chflags: invalid flag: {flag}\n")
+        self.assertFalse(os.path.exists(self.list))
+
+    def test_the_others_are_done_and_messages_keep_the_order(self):
+        self.make(b"a", b"b", b"li\nne")
+        os.mkdir(self.folder + b"/c")
+        run("hidden", "gone", "a", "", "/", "b", "li\nne", "c/..", "./c//", "a/x", "n" * 256, "a",
+            cwd=self.folder, status=1, says=f"chflags: gone: {MISSING}\nchflags: : {MISSING}\n"
+            "chflags: /: The path does not end in a name\n"
+            "chflags: li\nne: Names with a line break cannot be hidden or shown\n"
+            "chflags: c/..: The path does not end in a name\n"
+            f"chflags: a/x: Not a directory\nchflags: {'n' * 256}: File name too long\n")
+        os.remove(self.folder + b"/a")
+        run("nohidden", "a", cwd=self.folder, status=1, says=f"chflags: a: {MISSING}\n")
+        # No message may end in a file that took the place of a closed standard error.
+        subprocess.run(["/bin/sh", "-c", '"$0" nohidden a b 2>&-', COMMAND], cwd=self.folder)
+        self.assertEqual(self.read(), b"a\nc\n")
+
+    def test_a_path_longer_than_the_system_takes_at_once(self):
+        deep = os.open(self.folder, os.O_RDONLY)
+        for _ in range(20):
+            os.mkdir("d" * 250, dir_fd=deep)
+            deep = os.open("d" * 250, os.O_RDONLY, dir_fd=deep)
+        os.close(os.open("a", os.O_CREAT, dir_fd=deep))
+        run("hidden", b"/".join([self.folder] + [b"d" * 250] * 20 + [b"a"]))
+        self.assertEqual(os.read(os.open(".hidden", os.O_RDONLY, dir_fd=deep), 9), b"a\n")
+        os.closerange(3, deep + 2)
+
+
+class TheList(Folder):
+    def test_lines(self):
+        self.needMarks()
+        for before, flag, names, after in [
+                (b"x\n\n a\na \nA\n#a\nx\n", "hidden", [b"a"], b"x\n\n a\na \nA\n#a\nx\na\n"),
+                (b"x", "hidden", [b"a"], b"x\na\n"),
+                (b"ba\nab\na\r\n", "hidden", [b"a", b"b", b"a"], b"ba\nab\na\r\na\nb\n"),
+                (b"x\nb", "hidden", [b"a", b"b"], b"x\nb\na\n"),
+                (b"a\na\nx\na\na", "nohidden", [b"a"], b"x\n"),
+                (b"a\nx", "nohidden", [b"a"], b"x"),
+                (b"b\na\nx\nb\n\n", "nohidden", [b"b", b"a", b"a b"], b"x\n\n"),
+                (b"aa\n", "nohidden", [b"a"], b"aa\n"),
+                (b"a\n", "nohidden", [b"a"], b"")]:
+            with self.subTest(before=before, flag=flag):
+                self.make(*names)
+                self.make(b".hidden", content=before)
+                run(flag, *names, cwd=self.folder)
+                self.assertEqual(self.read(), after)
+
+    def test_odd_names_and_the_desktop_agrees(self):
+        names = [b"n" * 255, b"\xff\xfe not utf-8", b" blanks ", b"-h", b"'\"$(x)`*", b"\xc3\xa4",
+                 b"tab\there", b"\\", b"a"]
+        paths = self.make(*names)
+        os.symlink(b"nowhere", self.folder + b"/dangling")
+        os.mkdir(self.folder + b"/folder")
+        paths += [self.folder + b"/dangling", self.folder + b"/folder/"]
+        for path in paths:
+            run("hidden", path)
+        self.assertEqual(self.read().split(b"\n")[:-1], names + [b"dangling", b"folder"])
+        for flag in "hidden", "nohidden":
+            run(flag, *paths)
+            for path in paths if shutil.which("gio") else []:
+                told = subprocess.run(["gio", "info", "-n", "-a", "standard::is-hidden", path],
+                                      capture_output=True, check=True).stdout
+                self.assertEqual(b"is-hidden: TRUE" in told, flag == "hidden", path)
+        self.assertFalse(os.path.exists(self.list))
+
+    def test_only_a_file_made_here_is_removed_when_emptied(self):
+        self.needMarks()
+        a, b = self.make(b"a", b"b")
+        for arguments in ("hidden", a), ("hidden", b), ("nohidden", a):
+            run(*arguments)
+            self.assertEqual(os.getxattr(self.list, MARK), b"")
+        run("nohidden", b)
+        self.assertFalse(os.path.exists(self.list))
+        self.make(b".hidden")
+        run("hidden", a)
+        run("nohidden", a)
+        self.assertEqual(self.read(), b"")
+        self.enter(self.mount("-t", "ramfs", "none"))  # where files cannot be marked
+        a, b = self.make(b"a", b"b")
+        self.make(b".hidden", content=b"a\nb\n")
+        run("nohidden", a, b)
+        self.assertFalse(os.path.exists(self.list))
+
+    def test_mode_owner_attributes_and_link_stay(self):
+        self.needMarks()
+        a, target = self.make(b"a", b"list", content=b"x\n")
+        os.mkdir(self.folder + b"/else")
+        os.symlink(b"else/one", self.list)
+        os.symlink(b"../list", self.folder + b"/else/one")
+        os.chmod(target, 0o640)
+        os.setxattr(target, "user.note", b"mine")
+        if os.geteuid() == 0:
+            os.chown(target, 12345, 54321)
+        before = os.stat(target)[:1] + os.stat(target)[4:6]
+        for flag, content in ("hidden", b"x\na\n"), ("nohidden", b"x\n"):
+            run(flag, a)
+            self.assertEqual(os.readlink(self.list), b"else/one")
+            self.assertEqual(self.read(), content)
+            self.assertEqual(os.lstat(target)[:1] + os.lstat(target)[4:6], before)
+            self.assertEqual(os.getxattr(target, "user.note"), b"mine")
+        os.remove(target)
+        run("hidden", a)  # makes the target anew, and removes it again
+        self.assertEqual(self.read(), b"a\n")
+        run("nohidden", a)
+        self.assertEqual(sorted(os.listdir(self.folder)), [b".hidden", b"a", b"else"])
+
+    def test_what_is_no_file_is_left_alone(self):
+        a, = self.make(b"a")
+        for make, says in [(os.mkfifo, "The .hidden beside it is not a file"),
+                           (lambda path: os.symlink(b".hidden", path), os.strerror(errno.ELOOP))]:
+            make(self.list)
+            run("hidden", a, status=1, says=f"chflags: {os.fsdecode(a)}: {says}\n")
+            os.remove(self.list)
+
+    def test_the_time_always_gets_later(self):
+        a, = self.make(b"a")
+        self.make(b".hidden", content=b"x\n")
+        for ahead in 0, 3600, -3600:
+            os.utime(self.list, (1, time.time() + ahead))
+            for flag in ["hidden", "nohidden"] * 5:
+                before = os.stat(self.list).st_mtime_ns
+                run(flag, a)
+                after = os.stat(self.list)
+                self.assertGreaterEqual(after.st_mtime_ns - before, 10**6)
+                run(flag, a)  # nothing to change
+                self.assertEqual(os.stat(self.list), after)
+
+
+class TheItem(Folder):
+    def test_it_reports_a_change_and_has_none(self):
+        libc = ctypes.CDLL(None)
+        item, = self.make(b"a")
+        os.chmod(item, 0o2751)
+        os.symlink(item, self.folder + b"/link")
+        events = libc.inotify_init1(os.O_NONBLOCK)
+        self.addCleanup(os.close, events)
+        libc.inotify_add_watch(events, item, 4)  # IN_ATTRIB
+        for flag in "hidden", "nohidden":
+            run(flag, item)
+            self.assertEqual(len(os.read(events, 4096)), 16)
+            run(flag, item)  # nothing to change
+            run(flag, self.folder + b"/link")  # what it points to is not the item
+            self.assertRaises(BlockingIOError, os.read, events, 4096)
+            self.assertEqual(stat.S_IMODE(os.stat(item).st_mode), 0o2751)
+
+    def test_the_bit_of_other_systems(self):
+        def bits(path, kind):
+            if kind == "ntfs-3g":
+                return int.from_bytes(os.getxattr(path, "system.ntfs_attrib_be"), "big")
+            file = os.open(path, os.O_RDONLY)
+            self.addCleanup(os.close, file)
+            read_attributes = 0x80047210  # FAT_IOCTL_GET_ATTRIBUTES
+            return int.from_bytes(fcntl.ioctl(file, read_attributes, bytes(4)), sys.byteorder)
+
+        outside = self.folder
+        for kind, *maker in [("vfat", "mkfs.vfat"), ("exfat", "mkfs.exfat"),
+                             ("ntfs-3g", "mkntfs", "-Fq")]:
+            with self.subTest(kind):
+                self.enter(outside)
+                image, = self.make(kind.encode(), content=bytes(8 << 20))
+                maker[0] = shutil.which(maker[0], path=os.defpath + ":/sbin:/usr/sbin")
+                if not maker[0]:
+                    self.skipTest("it cannot be made")
+                subprocess.run([*maker, image], check=True, capture_output=True)
+                self.enter(self.mount("-t", kind, "-o", "loop", image, on=b"disk " + kind.encode()))
+                items = self.make(b"file") + [self.folder + b"/folder"]
+                os.mkdir(items[1])
+                before = [bits(item, kind) for item in items]
+                run("hidden", *items)
+                hidden = [bits(item, kind) for item in items]
+                self.assertEqual(hidden, [each | HIDDEN_BIT for each in before])
+                self.assertEqual(self.read(), b"file\nfolder\n")
+                time_before = os.stat(self.list).st_mtime_ns
+                run("nohidden", items[0])
+                self.assertGreater(os.stat(self.list).st_mtime_ns, time_before)
+                run("nohidden", items[1])
+                self.assertEqual([bits(item, kind) for item in items], before)
+                self.assertFalse(os.path.exists(self.list))
+
+
+class Trouble(Folder):
+    def test_many_at_once_lose_nothing(self):
+        names = [b"%03d" % number for number in range(400)]
+        self.make(*names)
+        self.make(b".hidden", content=b"x\n")
+        for flag, wanted in ("hidden", names + [b"x"]), ("nohidden", [b"x"]):
+            script = f'for name; do "$0" {flag} "$name" || exit 1; done'
+            runs = [subprocess.Popen(["/bin/sh", "-c", script, COMMAND, *names[start::20]],
+                                     cwd=self.folder) for start in range(20)]
+            self.assertEqual([run.wait() for run in runs], [0] * 20)
+            self.assertEqual(sorted(self.read().split()), sorted(wanted))
+
+    def test_killed_it_leaves_the_old_or_the_new(self):
+        a, = self.make(b"a")
+        old = b"".join(b"line %d\n" % number for number in range(50000))
+        self.make(b".hidden", content=old)
+        started = time.perf_counter()
+        run("hidden", a)
+        usual = time.perf_counter() - started
+        seen = set()
+        for _ in range(150):
+            run("nohidden", a)
+            self.assertEqual(self.read(), old)
+            process = subprocess.Popen([COMMAND, "hidden", a])
+            end = time.perf_counter() + random.random() * usual * 1.5
+            while time.perf_counter() < end:
+                pass
+            process.kill()
+            process.wait()
+            seen.add(self.read())
+        self.assertEqual(seen, {old, old + b"a\n"})
+        run("hidden", a)
+        run("nohidden", a)  # one that changes something takes away what the killed ones left
+        self.assertEqual(sorted(os.listdir(self.folder)), [b".hidden", b"a"])
+
+    def test_no_room_leaves_the_old(self):
+        def full(error, **options):
+            item, = self.make(b"a" * 200)
+            old = b"x" * 9998 + b"\n"
+            self.make(b".hidden", content=old)
+            says = f"chflags: {os.fsdecode(item)}: {os.strerror(error)}\n"
+            run("hidden", item, status=1, says=says, **options)
+            self.assertEqual(self.read(), old)
+            self.assertEqual(sorted(os.listdir(self.folder)), [b".hidden", b"a" * 200])
+
+        full(errno.EFBIG,  # its write comes back short
+             preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (10000, 10000)))
+        self.enter(self.mount("-t", "tmpfs", "-o", "size=16k", "none"))
+        full(errno.ENOSPC)
+
+    def test_a_folder_that_may_not_be_written(self):
+        listed, other = self.make(b"a", b"b")
+        self.make(b".hidden", content=b"a\n")
+        command = shutil.copy(COMMAND, self.folder + b"/command")
+        os.chmod(self.folder, 0o555)
+        user = {"user": 65534, "group": 65534, "extra_groups": []} if os.geteuid() == 0 else {}
+        for flag, done, not_done in ("hidden", listed, other), ("nohidden", other, listed):
+            told = subprocess.run([command, flag, listed, other], capture_output=True, **user)
+            self.assertEqual(told.stderr, b"chflags: " + not_done + b": Permission denied\n")
+            self.assertEqual(told.returncode, 1)
+            self.assertEqual(subprocess.run([command, flag, done], **user).returncode, 0)
+        os.chmod(self.folder, 0o755)
+
+
+if __name__ == "__main__":
+    COMMAND = os.path.abspath(sys.argv.pop(1))
+    unittest.main()
