@@ -1,0 +1,198 @@
+#!/usr/bin/python3
+"""The defaults companion against the file managers' real settings, in a home of its own.
+
+Usage: defaults_test.py DEFAULTS [unittest arguments]
+"""
+
+import os
+import pathlib
+import shutil
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+DEFAULTS = os.path.abspath(sys.argv.pop(1))
+PAIR = ["com.apple.finder", "AppleShowAllFiles"]
+MISSING = "The domain/default pair of (com.apple.finder, AppleShowAllFiles) does not exist\n"
+SCHEMAS = {
+    "org.gtk.gtk4.Settings.FileChooser": "show-hidden",
+    "org.gnome.nautilus.preferences": "show-hidden-files",
+    "org.mate.caja.preferences": "show-hidden-files",
+    "org.nemo.preferences": "show-hidden-files",
+}
+# file below the home, its text with the setting on, the same with it off
+FILES = [
+    (".config/pcmanfm-qt/default/settings.conf",
+     "; kept\r\n[Desktop]\nShowHidden=true\n\n[FolderView]\nMode=icon\nShowHidden=true\n[Window]\nA=1",
+     "; kept\r\n[Desktop]\nShowHidden=true\n\n[FolderView]\nMode=icon\nShowHidden=false\n[Window]\nA=1"),
+    (".config/pcmanfm-qt/lxqt/settings.conf", "[FolderView]\nShowHidden = true \n",
+     "[FolderView]\nShowHidden = false \n"),
+    (".config/pcmanfm/LXDE/pcmanfm.conf", "[ui]\nshow_hidden=1\nsort=name;ascending;\n",
+     "[ui]\nshow_hidden=0\nsort=name;ascending;\n"),
+    (".local/share/dolphin/view_properties/global/.directory",
+     "[Dolphin]\nVersion=4\n# n\xe4me\n\n[Settings]\nHiddenFilesShown=true\n",
+     "[Dolphin]\nVersion=4\n# n\xe4me\n\n[Settings]\nHiddenFilesShown=false\n"),
+]
+CHANNEL = ('<?xml version="1.0" encoding="UTF-8"?>\n\n<channel name="thunar" version="1.0">\n'
+           '  <property name="last-view" type="string" value="ThunarIconView"/>\n'
+           '  <property name="last-show-hidden" type="bool" value="true"/>\n</channel>\n')
+
+
+class DefaultsTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.home = pathlib.Path(folder.name)
+        # The settings service caches nothing here: GLib's own file stands in for its database.
+        self.environment = {"PATH": os.environ["PATH"], "HOME": str(self.home),
+                            "XDG_RUNTIME_DIR": str(self.home), "GSETTINGS_BACKEND": "keyfile",
+                            "XDG_DATA_DIRS": str(self.home / "none"),
+                            "XDG_CONFIG_DIRS": str(self.home / "none")}
+
+    def installSchemas(self):
+        folder = self.home / "schemas"
+        folder.mkdir()
+        for schema, key in SCHEMAS.items():
+            (folder / f"{schema}.gschema.xml").write_text(
+                f'<schemalist><schema id="{schema}" path="/{schema.replace(".", "/")}/">'
+                f'<key name="{key}" type="b"><default>false</default></key></schema></schemalist>')
+        subprocess.run(["glib-compile-schemas", folder], check=True)
+        self.environment["GSETTINGS_SCHEMA_DIR"] = str(folder)
+
+    def startBus(self):
+        data = pathlib.Path("/usr/share")
+        services = self.home / "none/dbus-1/services"
+        services.mkdir(parents=True)
+        shutil.copy(data / "dbus-1/services/org.xfce.Xfconf.service", services)
+        bus = subprocess.Popen(["dbus-daemon", "--session", "--nofork", "--print-address"],
+                               env=self.environment, stdout=subprocess.PIPE, text=True)
+        self.addCleanup(bus.stdout.close)
+        self.addCleanup(bus.wait)
+        self.addCleanup(bus.terminate)
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+
+    def write(self, name, text):
+        path = self.home / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(text.encode("latin-1"))
+        return path
+
+    def run_(self, *arguments, status=0, error=None):
+        result = subprocess.run([DEFAULTS, *arguments], env=self.environment, text=True,
+                                capture_output=True, timeout=30)
+        self.assertEqual(result.returncode, status, result.stderr)
+        if error is not None:
+            self.assertEqual(result.stderr, error)
+        return result.stdout
+
+    def read(self):
+        return self.run_("read", *PAIR, error="")
+
+    def turnOff(self, value="NO"):
+        self.assertEqual(self.run_("write", *PAIR, value, error=""), "")
+
+    def testNothingIsSetAnywhere(self):
+        self.assertEqual(self.run_("read", *PAIR, status=1, error=MISSING), "")
+        self.turnOff()
+        self.assertEqual([p for p in self.home.rglob("*") if p.is_file()], [])
+
+    def testOtherFormsAreRefused(self):
+        other = "The domain/default pair of (com.apple.dock, x) does not exist\n"
+        self.assertEqual(self.run_("read", "com.apple.dock", "x", status=1, error=other), "")
+        path = self.write(*FILES[1][:2])
+        for arguments in ([], ["read"], ["delete", *PAIR], ["write", *PAIR],
+                          ["write", *PAIR, "YES"], ["write", *PAIR, ""], ["read", *PAIR, "NO"]):
+            with self.subTest(arguments):
+                self.assertEqual(self.run_(*arguments, status=1), "")
+        self.assertEqual(path.read_text(), FILES[1][1])
+
+    def testFiles(self):
+        for number, (name, on, off) in enumerate(FILES):
+            with self.subTest(name):
+                path = self.write(name, on)
+                path.chmod(0o640)
+                self.assertEqual(self.read(), "YES\n")
+                self.turnOff(["NO", "0", "false", "No"][number])
+                self.assertEqual(path.read_bytes(), off.encode("latin-1"))
+                self.assertEqual(path.stat().st_mode & 0o7777, 0o640)
+                self.assertEqual(list(path.parent.iterdir()), [path])
+                self.assertEqual(self.read(), "NO\n")
+
+    def testLinkedFileStaysLinked(self):
+        name, on, off = FILES[0]
+        target = self.write("dotfiles/settings.conf", on)
+        link = self.home / name
+        link.parent.mkdir(parents=True)
+        link.symlink_to(target)
+        self.turnOff()
+        self.assertTrue(link.is_symlink())
+        self.assertEqual(target.read_bytes(), off.encode("latin-1"))
+
+    def testSettings(self):
+        self.installSchemas()
+        self.assertEqual(self.read(), "NO\n")
+        for schema, key in SCHEMAS.items():
+            with self.subTest(schema):
+                command = ["gsettings", "set", schema, key, "true"]
+                subprocess.run(command, env=self.environment, check=True)
+                self.assertEqual(self.read(), "YES\n")
+                self.turnOff()
+                self.assertEqual(self.read(), "NO\n")
+                command = ["gsettings", "get", schema, key]
+                self.assertEqual(subprocess.check_output(command, env=self.environment), b"false\n")
+
+    @unittest.skipUnless(shutil.which("xfconf-query"), "needs xfconf")
+    def testXfconf(self):
+        self.write(".config/xfce4/xfconf/xfce-perchannel-xml/thunar.xml", CHANNEL)
+        self.assertEqual(self.read(), "YES\n")  # from the file: there is no bus yet
+        self.run_("write", *PAIR, "NO", status=1)  # nobody there to store it
+        self.startBus()
+        self.assertEqual(self.read(), "YES\n")
+        query = ["xfconf-query", "-c", "thunar", "-p", "/last-show-hidden"]
+        self.turnOff()
+        self.assertEqual(subprocess.check_output(query, env=self.environment), b"false\n")
+        self.assertEqual(self.read(), "NO\n")
+        # The running daemon knows before its file does.
+        subprocess.run([*query, "-s", "true"], env=self.environment, check=True)
+        self.assertEqual(self.read(), "YES\n")
+
+    def testAllAtOnce(self):
+        self.installSchemas()
+        for schema, key in SCHEMAS.items():
+            subprocess.run(["gsettings", "set", schema, key, "true"], env=self.environment,
+                           check=True)
+        paths = [self.write(name, on) for name, on, _ in FILES]
+        self.turnOff()
+        self.assertEqual(self.read(), "NO\n")
+        self.assertEqual([p.read_bytes().decode("latin-1") for p in paths],
+                         [off for _, _, off in FILES])
+
+    def testEveryPressWaitsForTheRead(self):
+        self.installSchemas()
+        for name, _, off in FILES:
+            self.write(name, off)
+        times = []
+        for _ in range(15):
+            start = time.perf_counter()
+            self.read()
+            times.append(time.perf_counter() - start)
+        self.assertLess(sorted(times)[len(times) // 2], 0.030)
+
+    def testSilentBusDoesNotHoldItUp(self):
+        address = str(self.home / "silent")
+        with socket.socket(socket.AF_UNIX) as silent:
+            silent.bind(address)
+            silent.listen()
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={address}"
+            start = time.perf_counter()
+            self.run_("read", *PAIR, status=1)
+            self.assertLess(time.perf_counter() - start, 5)
+            self.write(*FILES[0][:2])
+            self.assertEqual(self.read(), "YES\n")
+
+
+if __name__ == "__main__":
+    unittest.main()
