@@ -1,6 +1,7 @@
 #include "state/item_list.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,46 @@ namespace {
 
 /// A change copies one block and the table of blocks: at 100,000 records some hundred each.
 constexpr qsizetype blockSize = 256;
+
+/// What a sort compares. The first characters in which titles of the list differ lie in the key
+/// itself, so that few comparisons have to fetch the strings.
+struct SortKey {
+    quint64 lead;
+    QStringView title;
+    const ItemRecord* record;
+
+    bool operator<(const SortKey& other) const {
+        return lead != other.lead ? lead < other.lead : title < other.title;
+    }
+};
+
+qsizetype commonPrefixLength(QStringView left, QStringView right) {
+    return std::mismatch(left.cbegin(), left.cend(), right.cbegin(), right.cend()).first -
+           left.cbegin();
+}
+
+/// The four characters from there on as one number that sorts like them.
+quint64 leadFrom(qsizetype start, QStringView title) {
+    constexpr qsizetype length = 4;
+    quint64 lead = 0;
+    for (qsizetype i = start; i < start + length; ++i)
+        lead = lead << 16 | (i < title.size() ? title.at(i).unicode() : 0U);
+    return lead;
+}
+
+std::vector<SortKey> sortKeys(const ItemList& list) {
+    std::vector<SortKey> keys;
+    keys.reserve(static_cast<std::size_t>(list.size()));
+    list.forEach([&keys](const ItemRecord& record) {
+        keys.push_back({0, record.fileTitleView(), &record});
+    });
+    QStringView prefix = keys.empty() ? QStringView() : keys.front().title;
+    for (const SortKey& key : keys)
+        prefix.truncate(commonPrefixLength(prefix, key.title));
+    for (SortKey& key : keys)
+        key.lead = leadFrom(prefix.size(), key.title);
+    return keys;
+}
 
 }  // namespace
 
@@ -67,16 +108,16 @@ void ItemList::removeAt(qsizetype index) {
 void ItemList::removeIf(const std::function<bool(const ItemRecord&)>& predicate) {
     ItemList kept;
     for (const Block& block : blocks_) {
-        QList<ItemRecord> rest;
-        rest.reserve(block.records.size());
-        for (const ItemRecord& record : block.records) {
-            if (!predicate(record))
-                rest.append(record);
-        }
+        const QList<ItemRecord>& records = block.records;
+        const auto firstRemoved = std::find_if(records.cbegin(), records.cend(), predicate);
         // A block that keeps all its records stays shared.
-        if (rest.size() == block.records.size())
+        if (firstRemoved == records.cend()) {
             kept.blocks_.append(block);
-        else if (!rest.isEmpty())
+            continue;
+        }
+        QList<ItemRecord> rest(records.cbegin(), firstRemoved);
+        std::remove_copy_if(firstRemoved + 1, records.cend(), std::back_inserter(rest), predicate);
+        if (!rest.isEmpty())
             kept.blocks_.append({0, std::move(rest)});
     }
     kept.renumber();
@@ -84,20 +125,12 @@ void ItemList::removeIf(const std::function<bool(const ItemRecord&)>& predicate)
 }
 
 void ItemList::sortByTitle(bool ascending) {
-    struct Key {
-        QStringView title;
-        const ItemRecord* record;
-    };
-    std::vector<Key> keys;
-    keys.reserve(static_cast<std::size_t>(size()));
-    forEach([&keys](const ItemRecord& record) {
-        keys.push_back({record.fileTitleView(), &record});
-    });
-    std::sort(keys.begin(), keys.end(), [ascending](const Key& left, const Key& right) {
-        return ascending ? left.title < right.title : right.title < left.title;
+    std::vector<SortKey> keys = sortKeys(*this);
+    std::sort(keys.begin(), keys.end(), [ascending](const SortKey& left, const SortKey& right) {
+        return ascending ? left < right : right < left;
     });
     ItemList sorted;
-    for (const Key& key : keys)
+    for (const SortKey& key : keys)
         sorted.append(*key.record);
     *this = std::move(sorted);
 }
@@ -114,13 +147,15 @@ void ItemList::forEach(const std::function<void(const ItemRecord&)>& visitor) co
 bool ItemList::operator==(const ItemList& other) const {
     if (size() != other.size())
         return false;
-    const auto sameBlock = [](const Block& left, const Block& right) {
-        return left.start == right.start && left.records == right.records;
-    };
-    if (blocks_.constData() == other.blocks_.constData() ||
+    const bool sameBlocks =
         std::equal(blocks_.cbegin(), blocks_.cend(), other.blocks_.cbegin(), other.blocks_.cend(),
-                   sameBlock))
-        return true;
+                   [](const Block& left, const Block& right) { return left.start == right.start; });
+    if (sameBlocks) {
+        // A block that both lists share is not looked into.
+        return std::equal(
+            blocks_.cbegin(), blocks_.cend(), other.blocks_.cbegin(),
+            [](const Block& left, const Block& right) { return left.records == right.records; });
+    }
     for (qsizetype i = 0; i < size(); ++i) {
         if (!(at(i) == other.at(i)))
             return false;

@@ -48,12 +48,12 @@ QString lastError() {
 bool writeAll(int descriptor, const char* bytes, std::size_t count) {
     while (count > 0) {
         const ssize_t written = ::write(descriptor, bytes, count);
-        if (written < 0 && errno != EINTR)
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
             return false;
-        if (written > 0) {
-            bytes += written;
-            count -= static_cast<std::size_t>(written);
-        }
+        bytes += written;
+        count -= static_cast<std::size_t>(written);
     }
     return true;
 }
@@ -85,14 +85,12 @@ QString linkTarget(const QString& file) {
 
 StoreReading readStore(const QString& file) {
     using State = StoreReading::State;
-    const QFileInfo info(linkTarget(file));
-    if (!info.exists())
-        return {State::Missing, {}};
+    struct stat status {};
+    if (::stat(QFile::encodeName(file).constData(), &status) != 0)
+        return {errno == ENOENT ? State::Missing : State::Damaged, {}};
     // Opening a pipe would wait for its other end.
-    if (!info.isFile())
-        return {State::NotAFile, {}};
-    QFile input(info.filePath());
-    if (!input.open(QIODevice::ReadOnly))
+    QFile input(file);
+    if (!S_ISREG(status.st_mode) || !input.open(QIODevice::ReadOnly))
         return {State::Damaged, {}};
     QByteArray json = input.readAll();
     if (input.error() != QFileDevice::NoError)
@@ -105,6 +103,8 @@ StoreReading readStore(const QString& file) {
 
 std::optional<QString> setAside(const QString& file) {
     const QString target = linkTarget(file);
+    if (!QFileInfo(target).isFile())
+        return std::nullopt;
     const QString dated =
         target + u'.' + QDateTime::currentDateTime().toString(u"yyyy-MM-ddTHHmmss");
     constexpr int mostAttempts = 100;
@@ -124,9 +124,10 @@ std::optional<QString> setAside(const QString& file) {
 void removeStaleTemporaries(const QString& file) {
     const QFileInfo info(linkTarget(file));
     const QDir folder = info.absoluteDir();
-    const QStringList names =
-        folder.entryList({info.fileName() + temporaryInfix + u'*'}, QDir::Files | QDir::Hidden);
+    const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
     for (const QString& name : names) {
+        if (!name.startsWith(info.fileName() + temporaryInfix))
+            continue;
         const QByteArray path = QFile::encodeName(folder.filePath(name));
         const FileDescriptor descriptor(
             ::open(path.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
@@ -138,8 +139,8 @@ void removeStaleTemporaries(const QString& file) {
 
 QString replaceStore(const QString& file, const StoreContents& contents) {
     const QByteArray target = QFile::encodeName(linkTarget(file));
-    if (!makeFolderOf(file))
-        return lastError();
+    if (const QString reason = makeFolderOf(file); !reason.isNull())
+        return reason;
     QByteArray temporary = target + temporaryInfix.latin1() + "XXXXXX";
     FileDescriptor output(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!output.isOpen())
@@ -155,10 +156,11 @@ QString replaceStore(const QString& file, const StoreContents& contents) {
     return {};
 }
 
-bool makeFolderOf(const QString& file) {
-    const QString folder = folderOf(file);
+QString makeFolderOf(const QString& file) {
+    const QString folder = folderOf(linkTarget(file));
     if (QFileInfo(folder).isDir())
-        return true;
+        return {};
     QDir().mkpath(folderOf(folder));
-    return ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU) == 0;
+    const bool made = ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU) == 0;
+    return made ? QString() : lastError();
 }

@@ -10,16 +10,17 @@
 /// exist yet, so that a save replaces the file and keeps the link.
 QString linkTarget(const QString& file);
 
-/// What a file holds, or why nothing could be had from it.
 struct StoreReading {
-    enum class State { Missing, Good, Damaged, NotAFile };
+    /// Damaged is whatever is there and cannot be used: not readable, no JSON object, no file.
+    enum class State { Missing, Good, Damaged };
     State state = State::Missing;
     StoreContents contents;
 };
 StoreReading readStore(const QString& file);
 
 /// Makes a second name for the file, its own with the time added, that keeps the content through
-/// later saves. Never replaces anything. The new name, or no value when that cannot be done.
+/// later saves. Never replaces anything. The new name, or no value when that cannot be done, as
+/// with everything that is no ordinary file.
 std::optional<QString> setAside(const QString& file);
 
 /// Removes what saves that were killed have left beside the file. Spares those in progress.
@@ -30,5 +31,6 @@ void removeStaleTemporaries(const QString& file);
 /// old file is then untouched.
 QString replaceStore(const QString& file, const StoreContents& contents);
 
-/// Makes the file's folder for its owner alone if it is missing. False when that is impossible.
-bool makeFolderOf(const QString& file);
+/// Makes the file's folder for its owner alone if it is missing. Null on success, or else the
+/// system's reason.
+QString makeFolderOf(const QString& file);

@@ -9,6 +9,8 @@
 
 #include "state/item_list.h"
 
+class Store;
+
 /// Everything that the program remembers between runs: a flat set of keys with values of the
 /// types string, boolean, integer, real, array and dictionary, which the store keeps distinct.
 ///
@@ -54,15 +56,5 @@ signals:
     void problemChanged();
 
 private:
-    struct Store;
-
-    void load();
-    bool protectOldFile();
-    void changed();
-    void startSave();
-    void finishSave(const QString& reason);
-    void setSaveProblem(const QString& problem);
-    QString backupFile() const;
-
     const std::unique_ptr<Store> store_;
 };

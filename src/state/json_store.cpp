@@ -1,0 +1,171 @@
+#include "state/json_store.h"
+
+#include <utility>
+
+#include <QDebug>
+
+#include "state/item_list.h"
+#include "state/preference_keys.h"
+#include "state/store_file.h"
+#include "state/stored_value.h"
+#include "state/user_defaults.h"
+
+namespace {
+
+/// On the thread of the save. Null on success, or else the reason.
+QString saveSnapshot(const QString& file, const QString& backup, const StoreContents& snapshot) {
+    const QString reason = replaceStore(file, snapshot);
+    // Only after the file itself, so that one of the two is good whatever happens to the other.
+    if (reason.isNull())
+        replaceStore(backup, snapshot);
+    return reason;
+}
+
+bool isItemList(const QVariant& value) {
+    return value.metaType() == QMetaType::fromType<ItemList>();
+}
+
+}  // namespace
+
+std::unique_ptr<Store> Store::open(const QString& file) {
+    return std::make_unique<JsonStore>(file);
+}
+
+JsonStore::JsonStore(const QString& file) : file_(file), backup_(file + QStringLiteral(".bak")) {
+    load();
+}
+
+JsonStore::~JsonStore() {
+    if (!JsonStore::synchronize())
+        qWarning().noquote() << problem();
+}
+
+QVariant JsonStore::value(const QString& key) const {
+    return contents_.value(key);
+}
+
+void JsonStore::setValue(const QString& key, const QVariant& value) {
+    QVariant& current = contents_[key];
+    // The start of the program stores what it has just read; that is no reason to write.
+    if (!unsaved_ && sameStoredValue(current, value))
+        return;
+    if (key == itemListKey && current.isValid() && !isItemList(current)) {
+        noticeOnceAside_ = UserDefaults::tr(
+            "The settings held no proper item list. They were kept as “%1” before the new list "
+            "was saved.");
+    }
+    current = value;
+    unsaved_ = true;
+    scheduleSave();
+}
+
+bool JsonStore::synchronize() {
+    if (save_.valid())
+        finishSave();
+    if (unsaved_)
+        startSave();
+    if (save_.valid())
+        finishSave();
+    return !unsaved_;
+}
+
+QString JsonStore::problem() const {
+    return saveProblem_.isEmpty() ? notice_ : saveProblem_;
+}
+
+void JsonStore::load() {
+    removeStaleTemporaries(file_);
+    removeStaleTemporaries(backup_);
+    const QString reason = makeFolderOf(file_);
+    if (!reason.isNull()) {
+        saveProblem_ = UserDefaults::tr("The settings could not be saved: %1").arg(reason);
+        return;
+    }
+    StoreReading reading = readStore(file_);
+    contents_ = std::move(reading.contents);
+    if (reading.state != StoreReading::State::Damaged)
+        return;
+
+    StoreReading copy = readStore(backup_);
+    contents_ = std::move(copy.contents);
+    noticeOnceAside_ = copy.state == StoreReading::State::Good
+                           ? UserDefaults::tr(
+                                 "The settings could not be read. They were kept as "
+                                 "“%1”, and the last good copy is used.")
+                           : UserDefaults::tr(
+                                 "The settings could not be read. They were kept as "
+                                 "“%1”, and there was no good copy to use instead.");
+    if (copy.state == StoreReading::State::Damaged)
+        setAside(backup_);
+    // At once, for the next start must find the file good again.
+    unsaved_ = true;
+    if (keepOldFile())
+        scheduleSave();
+}
+
+/// False, with the problem told, when the file must be set aside and cannot be.
+bool JsonStore::keepOldFile() {
+    if (noticeOnceAside_.isEmpty() || readStore(file_).state == StoreReading::State::Missing)
+        return true;
+    const std::optional<QString> aside = setAside(file_);
+    if (!aside) {
+        tell(saveProblem_,
+             UserDefaults::tr("The settings file “%1” could not be used and could not be kept "
+                              "under another name, so changes are not saved.")
+                 .arg(file_));
+        return false;
+    }
+    tell(notice_, std::exchange(noticeOnceAside_, QString()).arg(*aside));
+    return true;
+}
+
+void JsonStore::scheduleSave() {
+    if (std::exchange(scheduled_, true))
+        return;
+    const auto save = [this] {
+        scheduled_ = false;
+        // What a save in progress does not take along goes into the next one.
+        if (unsaved_ && !save_.valid())
+            startSave();
+    };
+    QMetaObject::invokeMethod(this, save, Qt::QueuedConnection);
+}
+
+void JsonStore::startSave() {
+    if (!keepOldFile())
+        return;
+    unsaved_ = false;
+    const auto finish = [this, number = ++saveNumber_] {
+        if (save_.valid() && number == saveNumber_)
+            finishSave();
+    };
+    const auto save = [this, finish, file = file_, backup = backup_, snapshot = contents_] {
+        const QString reason = saveSnapshot(file, backup, snapshot);
+        QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
+        return reason;
+    };
+    save_ = std::async(std::launch::async, save);
+}
+
+void JsonStore::finishSave() {
+    const QString reason = save_.get();
+    if (reason.isNull()) {
+        tell(saveProblem_, QString());
+        if (unsaved_)
+            scheduleSave();
+    } else {
+        // Not tried again by itself, the disk may be full for long: with the next change.
+        const bool changedMeanwhile = std::exchange(unsaved_, true);
+        tell(saveProblem_, UserDefaults::tr("The settings could not be saved: %1").arg(reason));
+        if (changedMeanwhile)
+            scheduleSave();
+    }
+}
+
+/// Changes one of the texts behind problem().
+void JsonStore::tell(QString& place, const QString& text) {
+    const QString before = problem();
+    place = text;
+    if (problem() != before)
+        emit problemChanged();
+}

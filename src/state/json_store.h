@@ -1,0 +1,46 @@
+#pragma once
+
+#include <future>
+
+#include "state/json_codec.h"
+#include "state/store.h"
+
+/// Keeps the user defaults in one JSON file. Changes are gathered until the next turn of the event
+/// loop; one save at a time then writes a snapshot on a thread of its own.
+class JsonStore final : public Store {
+    Q_OBJECT
+
+public:
+    explicit JsonStore(const QString& file);
+    /// Waits for the last save.
+    ~JsonStore() override;
+
+    QVariant value(const QString& key) const override;
+    void setValue(const QString& key, const QVariant& value) override;
+    bool synchronize() override;
+    QString problem() const override;
+
+private:
+    void load();
+    bool keepOldFile();
+    void scheduleSave();
+    void startSave();
+    void finishSave();
+    void tell(QString& place, const QString& text);
+
+    const QString file_;
+    const QString backup_;
+    StoreContents contents_;
+
+    bool unsaved_ =
+        false;  // changes that no save has taken up, or that the last one failed to keep
+    bool scheduled_ = false;
+    int saveNumber_ = 0;
+    std::future<QString> save_;  // the one in progress; gives the reason when it failed
+
+    // When not empty, the file holds something that no save may replace before it was set aside;
+    // the text then tells so, with a place for the new name.
+    QString noticeOnceAside_;
+    QString notice_;
+    QString saveProblem_;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QString>
+#include <QVariant>
+
+/// Where the user defaults live on this system. Main thread only.
+class Store : public QObject {
+    Q_OBJECT
+
+public:
+    /// The store of the system that the program was built for. The file counts only where the
+    /// system has no defaults database of its own.
+    static std::unique_ptr<Store> open(const QString& file);
+
+    virtual QVariant value(const QString& key) const = 0;
+    /// Takes a value in its stored form (stored_value.h).
+    virtual void setValue(const QString& key, const QVariant& value) = 0;
+    virtual bool synchronize() = 0;
+    virtual QString problem() const = 0;
+
+signals:
+    void problemChanged();
+};
