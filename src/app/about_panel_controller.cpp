@@ -16,7 +16,8 @@ QWidget* AboutPanelController::window() {
         return window_.get();
     }
     const auto text = [](const char* key) {
-        return Bundle::localizedString(QString::fromUtf8(key), QStringLiteral("AboutPanelController"));
+        return Bundle::localizedString(QString::fromUtf8(key),
+                                       QStringLiteral("AboutPanelController"));
     };
     window_ = std::make_unique<QDialog>();
     window_->installEventFilter(this);

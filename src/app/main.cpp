@@ -33,8 +33,9 @@ int run(Application& application) {
     const TerminationSignals terminationSignals;
     QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &application,
                      &Application::terminate);
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &defaults,
-                     [&defaults] { defaults.synchronize(); }, Qt::DirectConnection);
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &defaults,
+        [&defaults] { defaults.synchronize(); }, Qt::DirectConnection);
     const int status = QApplication::exec();
     defaults.synchronize();
     return status;

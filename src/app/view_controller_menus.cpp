@@ -122,9 +122,12 @@ void ViewController::setMenuKeys() {
 void ViewController::connectStandardActions() {
     auto* standard = new StandardActions(this);
     const std::pair<QAction*, const char*> commands[] = {
-        {ui_.undoMenuItem, "undo"},   {ui_.redoMenuItem, "redo"},
-        {ui_.cutMenuItem, "cut"},     {ui_.copysMenuItem, "copy"},
-        {ui_.pasteMenuItem, "paste"}, {ui_.deleteMenuItem, "del"},
+        {ui_.undoMenuItem, "undo"},
+        {ui_.redoMenuItem, "redo"},
+        {ui_.cutMenuItem, "cut"},
+        {ui_.copysMenuItem, "copy"},
+        {ui_.pasteMenuItem, "paste"},
+        {ui_.deleteMenuItem, "del"},
         {ui_.selectAllMenuItem, "selectAll"},
     };
     for (const auto& [item, command] : commands) {

@@ -54,8 +54,8 @@ void ViewController::viewDidLoad() {
     const QString password = defaults.objectForKey(passwordKey).toString();
     ui_.requirePassword->setState(password.isEmpty() ? 0 : 1);
     ui_.textScrollCiew->viewport()->setAutoFillBackground(false);
-    for (QWidget* line : {ui_.fileListViewRightLine, ui_.fileListViewBottomLine,
-                          ui_.itemInfomationLine}) {
+    for (QWidget* line :
+         {ui_.fileListViewRightLine, ui_.fileListViewBottomLine, ui_.itemInfomationLine}) {
         line->setStyleSheet(QStringLiteral("background-color: black"));
     }
     ui_.fileListView->setDelegate(this);
@@ -166,6 +166,7 @@ void ViewController::dressWindow() {
     triangle.addPixmap(image("disclosure-open").pixmap(QSize(24, 24)), QIcon::Normal, QIcon::On);
     ui_.sanjiao->setIcon(triangle);
     ui_.sanjiao->setIconSize({12, 12});
+    ui_.sanjiao->setAccessibleName(QStringLiteral("Disclosure triangle"));
     ui_.sanjiao->setAttribute(Qt::WA_TransparentForMouseEvents);
     const QString flat = QStringLiteral(
         "QPushButton, QToolButton { border: 1px solid transparent; border-radius: 4px;"

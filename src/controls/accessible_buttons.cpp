@@ -14,7 +14,9 @@ public:
     explicit AccessibleSwitch(QAbstractButton* button)
         : QAccessibleWidget(button, QAccessible::CheckBox) {}
 
-    QStringList actionNames() const override { return {pressAction(), toggleAction(), setFocusAction()}; }
+    QStringList actionNames() const override {
+        return {pressAction(), toggleAction(), setFocusAction()};
+    }
     void doAction(const QString& name) override {
         if (name == setFocusAction()) {
             button()->setFocus(Qt::OtherFocusReason);

@@ -37,7 +37,8 @@ WrapLabel::WrapLabel(QWidget* parent) : QLabel(parent) {
 
 int WrapLabel::heightForWidth(int width) const {
     QTextLayout layout(text(), font());
-    return std::max(fontMetrics().height(), static_cast<int>(std::ceil(layOut(layout, width, alignment()))));
+    return std::max(fontMetrics().height(),
+                    static_cast<int>(std::ceil(layOut(layout, width, alignment()))));
 }
 
 QSize WrapLabel::sizeHint() const {
@@ -67,7 +68,6 @@ void WrapLabel::contextMenuEvent(QContextMenuEvent* event) {
         return;
     }
     QMenu menu(this);
-    menu.addAction(tr("Copy"), this,
-                   [this] { QGuiApplication::clipboard()->setText(text()); });
+    menu.addAction(tr("Copy"), this, [this] { QGuiApplication::clipboard()->setText(text()); });
     menu.exec(event->globalPos());
 }

@@ -52,12 +52,12 @@ void InformationPane::showItem(const ItemRecord& record) {
 
 void InformationPane::clear() {
     outlets_.fileIconView->clear();
-    for (QLabel* label : {static_cast<QLabel*>(outlets_.filleTitle),
-                          static_cast<QLabel*>(outlets_.kinDescLabel),
-                          static_cast<QLabel*>(outlets_.whereDescLabel),
-                          static_cast<QLabel*>(outlets_.sizeDescLabel),
-                          static_cast<QLabel*>(outlets_.createdDescLabel),
-                          static_cast<QLabel*>(outlets_.modifiedDescLabel)}) {
+    for (QLabel* label :
+         {static_cast<QLabel*>(outlets_.filleTitle), static_cast<QLabel*>(outlets_.kinDescLabel),
+          static_cast<QLabel*>(outlets_.whereDescLabel),
+          static_cast<QLabel*>(outlets_.sizeDescLabel),
+          static_cast<QLabel*>(outlets_.createdDescLabel),
+          static_cast<QLabel*>(outlets_.modifiedDescLabel)}) {
         label->setText(QString());
     }
 }

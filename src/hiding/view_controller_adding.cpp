@@ -67,6 +67,7 @@ void ViewController::showOrHideInfomation(const Notification& notification) {
     }
     // "hidden" is only what the button shows; the pane follows the button's own value, so every
     // such notification toggles it.
-    ui_.dianjibutton->setState(notification.userInfo.value(QStringLiteral("hidden")).toBool() ? 1 : 0);
+    ui_.dianjibutton->setState(notification.userInfo.value(QStringLiteral("hidden")).toBool() ? 1
+                                                                                              : 0);
     touchEvent(ui_.dianjibutton);
 }

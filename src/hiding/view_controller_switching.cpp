@@ -50,6 +50,8 @@ void ViewController::touchSwitch(RDSwitchButton* sender) {
 void ViewController::updateItemCommands(bool visible) {
     // Fixed texts: from the first selection on they replace the localised title.
     ui_.hideMenuItem->setText(visible ? QStringLiteral("Hide") : QStringLiteral("Show"));
+    // There is an item to switch from the first report on; it can always be switched.
+    ui_.hideMenuItem->setEnabled(true);
     ui_.openMenuItem->setEnabled(visible);
     ui_.revealInFinderMenuItem->setEnabled(visible);
     ui_.removeMenuItem->setEnabled(visible);

@@ -110,9 +110,7 @@ public:
     int rowCount() const { return table()->model()->rowCount(); }
 
     // The rows first, then the buttons of the row under the pointer.
-    int childCount() const override {
-        return rowCount() + static_cast<int>(shownButtons().size());
-    }
+    int childCount() const override { return rowCount() + static_cast<int>(shownButtons().size()); }
     QAccessibleInterface* child(int index) const override {
         if (index >= 0 && index < rowCount()) {
             return row(index);
@@ -191,7 +189,8 @@ void updateAccessibleItems(DragDropTableView* table) {
     if (!QAccessible::isActive()) {
         return;
     }
-    if (auto* known = dynamic_cast<AccessibleTable*>(QAccessible::queryAccessibleInterface(table))) {
+    if (auto* known =
+            dynamic_cast<AccessibleTable*>(QAccessible::queryAccessibleInterface(table))) {
         known->rowsChanged();
         QAccessibleEvent reorder(table, QAccessible::ObjectReorder);
         QAccessible::updateAccessibility(&reorder);

@@ -64,7 +64,8 @@ public:
         }
         painter->restore();
     }
-    QSize sizeHint(const QStyleOptionViewItem& /*option*/, const QModelIndex& /*index*/) const override {
+    QSize sizeHint(const QStyleOptionViewItem& /*option*/,
+                   const QModelIndex& /*index*/) const override {
         return {1, table_->rowHeight()};
     }
 
@@ -268,7 +269,8 @@ void DragDropTableView::placeHoverButtons() {
         return;
     }
     const auto cell = cellForRow(hoveredRow_);
-    const ListCell::Layout parts = cell->layout(visualRect(rows_->index(hoveredRow_)), fontMetrics());
+    const ListCell::Layout parts =
+        cell->layout(visualRect(rows_->index(hoveredRow_)), fontMetrics());
     checkButton_->setGeometry(parts.checkButton);
     deletedButton_->setGeometry(parts.deletedButton);
     checkButton_->setAccessibleName(QStringLiteral("Reveal ") + cell->listTextField);
@@ -331,11 +333,18 @@ void DragDropTableView::initWithInterfaceFile() {
     bold.setPointSize(headerPointSize);
     if (!tableColumns_.isEmpty()) {
         TableColumn& first = tableColumns_.first();
-        first = {first.identifier, QStringLiteral("name"), bold, Qt::AlignLeft, 265, 50, true, true};
+        first = {
+            first.identifier, QStringLiteral("name"), bold, Qt::AlignLeft, 265, 50, true, true};
         if (tableColumns_.size() >= 2) {
             TableColumn& status = tableColumns_.last();
-            status = {status.identifier, QStringLiteral("statues"), bold, Qt::AlignHCenter, 100, 50,
-                      true, true};
+            status = {status.identifier,
+                      QStringLiteral("statues"),
+                      bold,
+                      Qt::AlignHCenter,
+                      100,
+                      50,
+                      true,
+                      true};
         } else {
             addColumn(QStringLiteral("2"), QStringLiteral("statues"));
         }

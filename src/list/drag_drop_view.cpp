@@ -215,8 +215,8 @@ QString DragDropView::titleOfRow(int row) const {
 void DragDropView::showContextMenu(int row, const QPoint& position) {
     const auto cell = tableView_->cellForRow(row);
     QMenu menu(this);
-    QAction* reveal = menu.addAction(tr("Reveal in File Manager"), this,
-                                     [cell] { cell->searchFilePath(); });
+    QAction* reveal =
+        menu.addAction(tr("Reveal in File Manager"), this, [cell] { cell->searchFilePath(); });
     reveal->setEnabled(cell->selected());
     menu.addAction(tr("Remove from List"), this, [cell] { cell->delatedFilePath(); });
     menu.exec(position);

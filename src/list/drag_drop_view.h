@@ -107,7 +107,9 @@ public:
 
     /// The drag shows the copy cursor, whatever it carries.
     Qt::DropAction draggingEntered(const QMimeData* mimeData) const;
-    Qt::DropAction draggingUpdated(const QMimeData* mimeData) const { return draggingEntered(mimeData); }
+    Qt::DropAction draggingUpdated(const QMimeData* mimeData) const {
+        return draggingEntered(mimeData);
+    }
     /// The whole drop; the records are in place when it returns. False when drops are refused.
     bool prepareForDragOperation(const QMimeData* mimeData);
 

@@ -81,8 +81,9 @@ bool DragDropView::prepareForDragOperation(const QMimeData* mimeData) {
         fileLists_.emplace();
     }
     if (dropped.someUnreadable) {
-        emit dropRefused(tr("Some of the dropped items could not be added: their names or places "
-                            "are not files on this computer that can be written as text."));
+        emit dropRefused(
+            tr("Some of the dropped items could not be added: their names or places "
+               "are not files on this computer that can be written as text."));
     }
     if (dropped.paths.isEmpty()) {
         return true;

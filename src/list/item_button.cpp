@@ -85,7 +85,8 @@ void ItemButton::paintEvent(QPaintEvent* /*event*/) {
     painter.drawText(QRect(0, ascentRoom, width(), fontMetrics().height()), Qt::AlignLeft, title());
     if (!paixuImageHidden_) {
         const QRect arrow(width() - arrowInset, (height() - arrowSide) / 2, arrowSide, arrowSide);
-        Bundle::imageNamed(on_ ? QStringLiteral("up") : QStringLiteral("down")).paint(&painter, arrow);
+        Bundle::imageNamed(on_ ? QStringLiteral("up") : QStringLiteral("down"))
+            .paint(&painter, arrow);
     }
     if (hasFocus()) {
         painter.setPen(QPen(QColor(1, 92, 220), 2));

@@ -12,6 +12,8 @@ constexpr int buttonSide = 20;
 constexpr int titleLeft = 40;
 constexpr int statusWidth = 60;
 constexpr int iconSide = 24;
+constexpr const char* visibleKey = "lEi-kk-qD3.title";
+constexpr const char* hiddenKey = "L5h-mo-cYT.title";
 
 QString mainTableText(const char* key) {
     return Bundle::localizedString(QLatin1String(key), QStringLiteral("Main"));
@@ -26,14 +28,18 @@ ListCell::ListCell()
 
 ListCell::Layout ListCell::layout(const QRect& row, const QFontMetrics& metrics) const {
     // The status text and the buttons share the right edge; the text's 60 units grow with the
-    // font and the language, so that it never runs under a button.
-    const int statusRoom =
-        std::max(statusWidth, metrics.horizontalAdvance(statuesTextField) + buttonSide + 2);
+    // font and the language, alike for every row, so that it never runs under a button.
+    int textWidth = metrics.horizontalAdvance(statuesTextField);
+    for (const char* key : {visibleKey, hiddenKey}) {
+        textWidth = std::max(textWidth, metrics.horizontalAdvance(mainTableText(key)));
+    }
+    const int statusRoom = std::max(statusWidth, textWidth + buttonSide + 2);
     const int titleRight = row.right() + 1 - statusRoom;
     Layout layout;
     layout.icon = QRect(row.x() + (titleLeft - iconSide) / 2,
                         row.y() + (row.height() - iconSide) / 2, iconSide, iconSide);
-    layout.title = QRect(row.x() + titleLeft, row.y(), titleRight - row.x() - titleLeft - 4, row.height());
+    layout.title =
+        QRect(row.x() + titleLeft, row.y(), titleRight - row.x() - titleLeft - 4, row.height());
     layout.status = QRect(titleRight, row.y(), statusRoom, row.height());
     const int buttonLeft = row.right() + 1 - buttonSide;
     const int middle = row.y() + row.height() / 2;
@@ -43,7 +49,7 @@ ListCell::Layout ListCell::layout(const QRect& row, const QFontMetrics& metrics)
 }
 
 void ListCell::setSelected(bool selected) {
-    statuesTextField = mainTableText(selected ? "lEi-kk-qD3.title" : "L5h-mo-cYT.title");
+    statuesTextField = mainTableText(selected ? visibleKey : hiddenKey);
     iconOpacity_ = selected ? 1.0 : 0.5;
     checkButtonHidden = true;
     selected_ = selected;

@@ -22,8 +22,8 @@ bool isPasswordStored() {
 }
 
 void storeProtection(bool on) {
-    UserDefaults::standardUserDefaults().setObject(
-        on ? QStringLiteral("1") : QStringLiteral("0"), requirePasswordKey);
+    UserDefaults::standardUserDefaults().setObject(on ? QStringLiteral("1") : QStringLiteral("0"),
+                                                   requirePasswordKey);
 }
 
 bool flag(const Notification& notification, const char* key) {

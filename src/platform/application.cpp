@@ -18,7 +18,9 @@ QList<QEventLoop*>& modalLoops() {
 // Ends the loop also when the window is closed without anybody calling stopModal().
 class CloseWatcher final : public QObject {
 public:
-    CloseWatcher(QWidget* window, QEventLoop* loop) : loop_(loop) { window->installEventFilter(this); }
+    CloseWatcher(QWidget* window, QEventLoop* loop) : loop_(loop) {
+        window->installEventFilter(this);
+    }
 
     bool eventFilter(QObject* /*window*/, QEvent* event) override {
         if (event->type() == QEvent::Hide && !event->spontaneous()) {

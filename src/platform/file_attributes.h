@@ -7,7 +7,7 @@
 
 /// What the file system tells of one item itself (of a symbolic link, not of what it points to).
 struct FileAttributes {
-    qint64 size = 0;  ///< bytes; of a folder, its directory entry's
+    qint64 size = 0;    ///< bytes; of a folder, its directory entry's
     QDateTime created;  ///< invalid where the file system keeps none
     QDateTime modified;
 };

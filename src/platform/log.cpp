@@ -12,10 +12,12 @@ namespace {
 void writeLine(const QString& text) {
     // QCoreApplication may not exist yet, or no longer, when a message comes.
     static const QString process = QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
-    const QString name = process.isEmpty() ? QStringLiteral("velmora") : QFileInfo(process).fileName();
+    const QString name =
+        process.isEmpty() ? QStringLiteral("velmora") : QFileInfo(process).fileName();
     const QString line =
         QStringLiteral("%1 %2[%3] ")
-            .arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")), name)
+            .arg(QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss.zzz")),
+                 name)
             .arg(QCoreApplication::applicationPid()) +
         text + u'\n';
     const QByteArray bytes = line.toUtf8();

@@ -23,11 +23,10 @@ void NotificationCenter::postNotification(const QString& name, const QVariantMap
     const std::vector<Registration> registrations = registrations_;
     const Notification notification{name, userInfo};
     for (const Registration& registration : registrations) {
-        const bool stillThere =
-            !registration.observer.isNull() &&
-            std::ranges::any_of(registrations_, [&](const Registration& r) {
-                return r.observer == registration.observer && r.name == name;
-            });
+        const bool stillThere = !registration.observer.isNull() &&
+                                std::ranges::any_of(registrations_, [&](const Registration& r) {
+                                    return r.observer == registration.observer && r.name == name;
+                                });
         if (registration.name == name && stillThere) {
             registration.handler(notification);
         }

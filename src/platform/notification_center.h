@@ -26,7 +26,8 @@ public:
     template <typename Observer>
     void addObserver(Observer* observer, void (Observer::*handler)(const Notification&),
                      const QString& name) {
-        add(observer, name, [observer, handler](const Notification& n) { (observer->*handler)(n); });
+        add(observer, name,
+            [observer, handler](const Notification& n) { (observer->*handler)(n); });
     }
     void removeObserver(const QObject* observer, const QString& name);
     void postNotification(const QString& name, const QVariantMap& userInfo = {});

@@ -35,10 +35,10 @@ void StandardActions::connectAction(QAction* action, const char* command, QMenu*
             QMetaObject::invokeMethod(focus, name.constData());
         }
     });
-    connect(menu, &QMenu::aboutToShow, action, [action, name] {
-        action->setEnabled(canPerform(QApplication::focusWidget(), name));
-    });
+    connect(menu, &QMenu::aboutToShow, action,
+            [action, name] { action->setEnabled(canPerform(QApplication::focusWidget(), name)); });
     // Keys reach the command also while the menu is closed, whatever it last showed.
-    connect(menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); },
-            Qt::QueuedConnection);
+    connect(
+        menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); },
+        Qt::QueuedConnection);
 }

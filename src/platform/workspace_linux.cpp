@@ -51,7 +51,8 @@ void selectWithCommand(const QString& path) {
 
 void Workspace::selectFile(const QString& path) {
     QDBusMessage message = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
+        QStringLiteral("org.freedesktop.FileManager1"),
+        QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
     const QByteArray address = QUrl::fromLocalFile(path).toEncoded(QUrl::FullyEncoded);
     message << QStringList{QString::fromLatin1(address)} << QString();

@@ -31,14 +31,22 @@ constexpr int paneBottom = 19;
 const std::array<Option, 4>& options() {
     using Controller = RDTwoWindowController;
     static const std::array<Option, 4> all{{
-        {Preference::MakeVisibleAtLaunch, "Make visible all the listed items at launch",
-         {75, 177, 271, 14}, &Controller::checkButton1Touch},
-        {Preference::MakeInvisibleOnQuit, "Make invisible all the listed items on quit",
-         {75, 130, 268, 14}, &Controller::checkButton2Touch},
-        {Preference::OpenOnDoubleClick, "Make visible and open hidden items on double click",
-         {75, 81, 338, 14}, &Controller::checkButton3Touch},
-        {Preference::AlternatingRowColors, "Use Alternating Colors For the Items List Rows",
-         {75, 32, 307, 14}, &Controller::checkButton4Touch},
+        {Preference::MakeVisibleAtLaunch,
+         "Make visible all the listed items at launch",
+         {75, 177, 271, 14},
+         &Controller::checkButton1Touch},
+        {Preference::MakeInvisibleOnQuit,
+         "Make invisible all the listed items on quit",
+         {75, 130, 268, 14},
+         &Controller::checkButton2Touch},
+        {Preference::OpenOnDoubleClick,
+         "Make visible and open hidden items on double click",
+         {75, 81, 338, 14},
+         &Controller::checkButton3Touch},
+        {Preference::AlternatingRowColors,
+         "Use Alternating Colors For the Items List Rows",
+         {75, 32, 307, 14},
+         &Controller::checkButton4Touch},
     }};
     return all;
 }
@@ -88,8 +96,8 @@ void RDTwoWindowController::windowDidLoad() {
     rows->setSpacing(0);
     int top = paneSize.height();
     for (const Option& option : options()) {
-        auto* box = new QCheckBox(
-            Bundle::localizedString(QLatin1String(option.titleKey), table), generalView_);
+        auto* box = new QCheckBox(Bundle::localizedString(QLatin1String(option.titleKey), table),
+                                  generalView_);
         box->setObjectName(preferenceName(option.preference));
         box->setMinimumSize(option.frame.size());
         rows->addSpacing(top - (option.frame.y() + option.frame.height()) -
