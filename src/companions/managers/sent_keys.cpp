@@ -118,15 +118,15 @@ std::vector<SentKeys::Window> SentKeys::windowsOf(std::string_view windowClass) 
     return windows;
 }
 
-bool SentKeys::sendControl(const Window& window, char letter) const {
-    const auto key = keyOf(connection_.get(), static_cast<unsigned char>(letter));
+bool SentKeys::send(const Window& window, xcb_keysym_t symbol, bool withControl) const {
+    const auto key = keyOf(connection_.get(), symbol);
     if (!key)
         return false;
     xcb_key_press_event_t event{};
     event.detail = key->code;
     event.root = root_;
     event.event = window.id;
-    event.state = static_cast<uint16_t>(XCB_MOD_MASK_CONTROL | key->group);
+    event.state = static_cast<uint16_t>((withControl ? XCB_MOD_MASK_CONTROL : 0) | key->group);
     event.same_screen = 1;
     for (const auto type : {XCB_KEY_PRESS, XCB_KEY_RELEASE}) {
         event.response_type = static_cast<uint8_t>(type);

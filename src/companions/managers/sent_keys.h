@@ -23,9 +23,9 @@ public:
     /// The windows, but no dialogs, of the programs of that class (compared without regard to
     /// case).
     std::vector<Window> windowsOf(std::string_view windowClass) const;
-    /// Sends a press and a release of the control key's combination with a Latin letter.
-    /// False when no key of the keyboard gives that letter.
-    bool sendControl(const Window& window, char letter) const;
+    /// Sends a press and a release of the key that gives the symbol, alone or with the control
+    /// key. False when no key of the keyboard gives it.
+    bool send(const Window& window, xcb_keysym_t symbol, bool withControl) const;
 
 private:
     struct Disconnect {
