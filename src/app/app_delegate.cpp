@@ -122,6 +122,7 @@ void AppDelegate::checkForUpdates(QAction* /*sender*/) {
     alert.setText(QStringLiteral("You're up-to-date."));
     alert.setInformativeText(
         QStringLiteral("Velmora v1.5 is currently the newest version available."));
+    alert.setStyleSheet(QStringLiteral("QLabel#qt_msgbox_informativelabel { min-width: 22em; }"));
     alert.exec();
 }
 

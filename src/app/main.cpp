@@ -1,5 +1,6 @@
 #include <QMainWindow>
 #include <QSessionManager>
+#include <QTimer>
 
 #include "app/app_delegate.h"
 #include "app/rd_window_controller.h"
@@ -10,14 +11,33 @@
 #include "platform/bundle.h"
 #include "platform/log.h"
 #include "platform/shell.h"
+#include "platform/single_instance.h"
 #include "platform/termination_signals.h"
 #include "state/user_defaults.h"
 #include "ui_Main.h"
 
 namespace {
 
+void bringForward(QMainWindow& window, const QByteArray& token) {
+    if (!token.isEmpty()) {
+        qputenv("XDG_ACTIVATION_TOKEN", token);
+    }
+    if (window.isMinimized()) {
+        window.showNormal();
+    }
+    window.raise();
+    window.activateWindow();
+}
+
 /// Runs the program; returns its exit status.
 int run(Application& application) {
+    SingleInstance instance(UserDefaults::fileBeside(QStringLiteral("instance.lock")));
+    if (!instance.isFirst()) {
+        if (!instance.activateFirst()) {
+            Log::line(QStringLiteral("Velmora is running already."));
+        }
+        return 0;
+    }
     UserDefaults defaults(UserDefaults::standardFile());
     QMainWindow window;
     Ui::Main outlets;
@@ -36,6 +56,10 @@ int run(Application& application) {
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &defaults,
         [&defaults] { defaults.synchronize(); }, Qt::DirectConnection);
+    QObject::connect(&instance, &SingleInstance::activationRequested, &window,
+                     [&window](const QByteArray& token) { bringForward(window, token); });
+    // Nobody waits for it before the window is there.
+    QTimer::singleShot(0, &instance, &SingleInstance::listen);
     const int status = QApplication::exec();
     defaults.synchronize();
     return status;

@@ -7,6 +7,7 @@
 #include "app/quiet_line.h"
 #include "hiding/information_pane.h"
 #include "list/drag_drop_view.h"
+#include "platform/item_visibility.h"
 #include "platform/open_panel.h"
 
 class AppDelegate;
@@ -83,7 +84,6 @@ private:
     void updateItemCommands(bool visible);
     void updatePasswordCommand();
     void setPasswordItemTitle();
-    void reportOutcome(const ItemRecord& record, bool askedVisible);
     void presentAsModalWindow(RDPasswordViewController* dialog);
 
     QMainWindow* window_;
@@ -93,6 +93,7 @@ private:
     OpenPanel openPanel_;
     InformationPane informationPane_;
     QuietLine quietLine_;
+    ItemVisibility visibility_;
     QString selectPath_;
     bool canReSetRequirtPassword_ = false;
 };

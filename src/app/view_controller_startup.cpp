@@ -12,6 +12,7 @@
 #include "platform/notification_center.h"
 #include "platform/notification_names.h"
 #include "platform/shell.h"
+#include "state/dropped_items.h"
 #include "state/preference_keys.h"
 #include "state/readings.h"
 #include "state/user_defaults.h"
@@ -106,7 +107,17 @@ void ViewController::dropMissingItems() {
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     std::optional<ItemList> list = defaults.itemList();
     if (list) {
-        list->removeIf([](const ItemRecord& record) { return !fileExists(record.filePath()); });
+        // Without a message; but an item that was hidden on a disk that is not there now must not
+        // be forgotten for good.
+        ItemList missing;
+        list->removeIf([&missing](const ItemRecord& record) {
+            const bool gone = !fileExists(record.filePath());
+            if (gone) {
+                missing.append(record);
+            }
+            return gone;
+        });
+        DroppedItems(UserDefaults::fileBeside(DroppedItems::fileName)).keep(missing);
     }
     defaults.setItemList(list);
 }
@@ -202,6 +213,8 @@ void ViewController::connectControls() {
     showProblem();
     connect(ui_.fileListView, &DragDropView::dropRefused, this,
             [this](const QString& text) { quietLine_.say(QuietLine::Drop, text); });
+    connect(&visibility_, &ItemVisibility::checked, this,
+            [this](const QString& message) { quietLine_.say(QuietLine::Item, message); });
     if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
         // A handler that failed may have changed the list in memory: show what is there.
         connect(application, &Application::exceptionReported, this,

@@ -5,7 +5,6 @@
 #include "controls/rd_custom_button.h"
 #include "controls/rd_switch_button.h"
 #include "hiding/command_lines.h"
-#include "platform/item_visibility.h"
 #include "platform/shell.h"
 #include "ui_Main.h"
 
@@ -44,7 +43,8 @@ void ViewController::touchSwitch(RDSwitchButton* sender) {
     list->replaceRecord(list->selectRowIndex(), record);
     list->storeFileLists();
     list->reloadData();
-    reportOutcome(record, visible);
+    // The record keeps what was asked; the quiet line tells when the item is not so.
+    visibility_.check(selectPath_, visible);
 }
 
 void ViewController::updateItemCommands(bool visible) {
@@ -55,11 +55,6 @@ void ViewController::updateItemCommands(bool visible) {
     ui_.openMenuItem->setEnabled(visible);
     ui_.revealInFinderMenuItem->setEnabled(visible);
     ui_.removeMenuItem->setEnabled(visible);
-}
-
-void ViewController::reportOutcome(const ItemRecord& record, bool askedVisible) {
-    // The record keeps what was asked; the quiet line tells when the item is not so.
-    quietLine_.say(QuietLine::Item, outcomeMessage(record.filePath(), askedVisible));
 }
 
 void ViewController::touchEvent(RdCustomButton* sender) {

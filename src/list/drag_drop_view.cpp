@@ -8,6 +8,7 @@
 #include "platform/notification_center.h"
 #include "platform/notification_names.h"
 #include "platform/workspace.h"
+#include "state/dropped_items.h"
 #include "state/preference_keys.h"
 #include "state/readings.h"
 #include "state/user_defaults.h"
@@ -23,6 +24,12 @@ bool isShown(const ItemRecord& record) {
 }
 
 }  // namespace
+
+void DragDropView::forgetDropped(const QStringList& paths) {
+    if (!paths.isEmpty()) {
+        DroppedItems(UserDefaults::fileBeside(DroppedItems::fileName)).forget(paths);
+    }
+}
 
 DragDropView::DragDropView(QWidget* parent)
     : QWidget(parent), topViw_(new TopView(this)), tableView_(new DragDropTableView(this)) {
@@ -103,9 +110,12 @@ void DragDropView::addFileList(const QList<ItemRecord>& records) {
     if (!fileLists_) {
         fileLists_.emplace();
     }
+    QStringList paths;
     for (const ItemRecord& record : records) {
         fileLists_->append(record);
+        paths << record.filePath();
     }
+    forgetDropped(paths);
     setSelectRowIndex(static_cast<int>(count()) - 1);
     selectionReport();
     storeFileLists();

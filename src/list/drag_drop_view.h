@@ -123,6 +123,8 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    /// Their records need no longer be kept among those that a start has dropped.
+    static void forgetDropped(const QStringList& paths);
     void selectionReport();
     void tableSelectionDidChange();
     void sort(const ItemButton* button);

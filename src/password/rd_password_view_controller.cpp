@@ -41,7 +41,6 @@ RDPasswordViewController::~RDPasswordViewController() = default;
 
 void RDPasswordViewController::showEvent(QShowEvent* event) {
     if (!loaded_) {
-        loaded_ = true;
         viewDidLoad();
     }
     ui_->passwordFilde->setFocus(Qt::OtherFocusReason);
@@ -49,6 +48,7 @@ void RDPasswordViewController::showEvent(QShowEvent* event) {
 }
 
 void RDPasswordViewController::viewDidLoad() {
+    loaded_ = true;
     constexpr QSize pictureSize(64, 64);
     setWindowTitle(text("1.title"));
     ui_->yanzhengCancel->setText(text("cancelTitle"));
@@ -107,6 +107,8 @@ void RDPasswordViewController::verify() {
         alert.setText(text("1.alertTitle"));
         alert.setInformativeText(u'\n' + text("1.messageContent"));
         alert.addButton(text("1.alertButtonTitle"), QMessageBox::AcceptRole);
+        alert.setStyleSheet(
+            QStringLiteral("QLabel#qt_msgbox_informativelabel { min-width: 18em; }"));
         alert.exec();
         ui_->passwordFilde->setFocus(Qt::OtherFocusReason);
         return;

@@ -28,7 +28,7 @@ public:
     /// Save was pressed at least once.
     bool touchDownSave() const { return touchDownSave_; }
 
-    /// Fills texts and pictures for the mode.
+    /// Fills texts and pictures for the mode; when the dialog is shown at the latest.
     void viewDidLoad();
     void save();
     /// Also what Escape and the close box do. Reports the typed text too: the observer takes it

@@ -3,6 +3,7 @@
 #include "app/view_controller.h"
 #include "controls/rd_custom_button.h"
 #include "password/rd_password_view_controller.h"
+#include "platform/application.h"
 #include "platform/bundle.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
@@ -72,9 +73,8 @@ void ViewController::changePasswordMeunItem(const Notification& /*notification*/
 
 void ViewController::presentAsModalWindow(RDPasswordViewController* dialog) {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->show();
-    dialog->raise();
-    dialog->activateWindow();
+    dialog->viewDidLoad();
+    Application::presentOver(dialog, window_);
 }
 
 void ViewController::changePassword(const Notification& notification) {

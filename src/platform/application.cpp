@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QPointer>
 #include <QWidget>
+#include <QWindow>
 
 #include "platform/log.h"
 
@@ -13,6 +14,19 @@ namespace {
 QList<QEventLoop*>& modalLoops() {
     static QList<QEventLoop*> loops;
     return loops;
+}
+
+// The window that a modal one belongs to: the one in use, or the first that is shown.
+QWidget* owner() {
+    if (QWidget* active = QApplication::activeWindow()) {
+        return active;
+    }
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->isWindow() && window->parentWidget() == nullptr) {
+            return window;
+        }
+    }
+    return nullptr;
 }
 
 // Ends the loop also when the window is closed without anybody calling stopModal().
@@ -56,15 +70,29 @@ void Application::runModalForWindow(QWidget* window) {
     CloseWatcher watcher(window, &loop);
     const QPointer<QWidget> guard(window);
     window->setWindowModality(Qt::ApplicationModal);
-    window->show();
-    window->raise();
-    window->activateWindow();
+    presentOver(window, owner());
     modalLoops().append(&loop);
     loop.exec(QEventLoop::DialogExec);
     modalLoops().removeOne(&loop);
     if (guard) {
         guard->hide();
     }
+}
+
+void Application::presentOver(QWidget* window, const QWidget* below) {
+    if (below != nullptr && below != window) {
+        window->winId();
+        window->windowHandle()->setTransientParent(below->window()->windowHandle());
+        if (!window->testAttribute(Qt::WA_Resized)) {
+            window->adjustSize();
+        }
+        QRect frame(QPoint(), window->size());
+        frame.moveCenter(below->window()->geometry().center());
+        window->move(frame.topLeft());
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 void Application::stopModal() {

@@ -19,6 +19,8 @@ public:
     /// Shows `window` application-modally and returns when stopModal() was called for it (or when
     /// it was closed by other means). The window is hidden then, not destroyed.
     static void runModalForWindow(QWidget* window);
+    /// Shows `window` in front of `below` (may be null) and centred over it.
+    static void presentOver(QWidget* window, const QWidget* below);
     /// Ends the innermost modal loop that runs; nothing without one.
     static void stopModal();
 

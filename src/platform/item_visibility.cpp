@@ -22,9 +22,6 @@ QString reason(const QString& path) {
     if (path.contains(u'\n')) {
         return translated("its name holds a line break, which file managers cannot hide.");
     }
-    if (!fileExists(path)) {
-        return translated("it no longer exists.");
-    }
     if (access(QFile::encodeName(folder).constData(), W_OK) != 0) {
         return translated("its folder cannot be written.");
     }
@@ -33,13 +30,18 @@ QString reason(const QString& path) {
 
 }  // namespace
 
-QString outcomeMessage(const QString& path, bool askedVisible) {
-    if (isHiddenInFileManagers(path) != askedVisible) {
-        return {};
+void ItemVisibility::answer(const QString& path, bool askedVisible, bool hidden) {
+    if (hidden != askedVisible) {
+        emit checked({});
+        return;
     }
     QString name = QFileInfo(path).fileName();
     name.replace(u'\n', u' ');
+    if (!fileExists(path)) {
+        emit checked(translated("“%1” no longer exists.").arg(name));
+        return;
+    }
     const QString message = askedVisible ? translated("“%1” is still hidden: %2")
                                          : translated("“%1” is still visible: %2");
-    return message.arg(name, reason(path));
+    emit checked(message.arg(name, reason(path)));
 }

@@ -4,8 +4,9 @@
 
 #include "platform/item_visibility.h"
 
-bool isHiddenInFileManagers(const QString& path) {
+void ItemVisibility::check(const QString& path, bool askedVisible) {
     struct stat status {};
-    return lstat(QFile::encodeName(path).constData(), &status) == 0 &&
-           (status.st_flags & UF_HIDDEN) != 0;
+    const bool hidden = lstat(QFile::encodeName(path).constData(), &status) == 0 &&
+                        (status.st_flags & UF_HIDDEN) != 0;
+    answer(path, askedVisible, hidden);
 }

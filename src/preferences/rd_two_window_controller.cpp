@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QEvent>
 #include <QMainWindow>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "platform/application.h"
@@ -87,6 +88,8 @@ void RDTwoWindowController::windowDidLoad() {
     content->setContentsMargins(0, 0, 0, paneBottom);
     content->addWidget(generalView_);
     test1();
+    auto* close = new QShortcut(QKeySequence::Cancel, window_.get());
+    connect(close, &QShortcut::activated, this, &RDTwoWindowController::closeWindow);
     auto* panes = new QActionGroup(window_.get());
     panes->addAction(ui_->general);
     ui_->general->setChecked(true);

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include <QDir>
+#include <QFileInfo>
 #include <QStandardPaths>
 
 #include "state/preference_keys.h"
@@ -38,6 +40,10 @@ UserDefaults& UserDefaults::standardUserDefaults() {
 QString UserDefaults::standardFile() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
            QStringLiteral("/velmora/defaults.json");
+}
+
+QString UserDefaults::fileBeside(const QString& name) {
+    return QFileInfo(standardFile()).dir().filePath(name);
 }
 
 QVariant UserDefaults::objectForKey(const QString& key) const {

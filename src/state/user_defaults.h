@@ -32,6 +32,8 @@ public:
     static UserDefaults& standardUserDefaults();
     /// `$XDG_CONFIG_HOME/velmora/defaults.json`, by default below `~/.config`.
     static QString standardFile();
+    /// A file of that name in the store's folder, for what stands beside the store.
+    static QString fileBeside(const QString& name);
 
     /// The stored value, or an invalid QVariant when the key is absent. Arrays and dictionaries
     /// come as QVariantList and QVariantMap, the item list as an ItemList.

@@ -13,7 +13,7 @@
 #include <sys/time.h>
 #include <unistd.h>
 
-#include "places.h"
+#include "managers/places.h"
 
 namespace {
 

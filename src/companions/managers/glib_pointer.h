@@ -9,6 +9,7 @@ struct GlibRelease {
     void operator()(GError* error) const { g_error_free(error); }
     void operator()(GVariant* value) const { g_variant_unref(value); }
     void operator()(GSettingsSchema* schema) const { g_settings_schema_unref(schema); }
+    void operator()(const char** strings) const { g_free(strings); }
     template <typename Object>
     void operator()(Object* object) const {
         g_object_unref(object);

@@ -1,0 +1,130 @@
+#include "accessible.h"
+
+#include <algorithm>
+#include <deque>
+#include <iterator>
+#include <utility>
+
+namespace {
+
+constexpr const char* accessibleInterface = "org.a11y.atspi.Accessible";
+constexpr const char* actionInterface = "org.a11y.atspi.Action";
+// Numbers from the interface's own enumerations.
+constexpr unsigned menuBarRole = 34;
+constexpr unsigned checkedState = 4;
+
+}  // namespace
+
+Accessible::Accessible(const Bus& bus, std::string service, std::string path)
+    : bus_(&bus), service_(std::move(service)), path_(std::move(path)) {}
+
+std::vector<Accessible> Accessible::windowsOf(const Bus& accessibility, std::string_view program) {
+    const Accessible desktop(accessibility, "org.a11y.atspi.Registry",
+                             "/org/a11y/atspi/accessible/root");
+    std::vector<Accessible> windows;
+    for (const auto& application : desktop.children()) {
+        const auto name = application.name();
+        if (g_ascii_strcasecmp(name.c_str(), std::string(program).c_str()) != 0)
+            continue;
+        const auto own = application.children();
+        windows.insert(windows.end(), own.begin(), own.end());
+    }
+    return windows;
+}
+
+VariantPointer Accessible::call(const char* interface, const char* method,
+                                GVariant* arguments) const {
+    return bus_->call(service_, path_, interface, method, arguments);
+}
+
+std::vector<Accessible> Accessible::children() const {
+    std::vector<Accessible> found;
+    const auto answer = call(accessibleInterface, "GetChildren");
+    if (!answer || !g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(a(so))")))
+        return found;
+    GVariantIter* iterator = nullptr;
+    g_variant_get(answer.get(), "(a(so))", &iterator);
+    const char* service = nullptr;
+    const char* path = nullptr;
+    while (g_variant_iter_loop(iterator, "(&s&o)", &service, &path))
+        found.push_back(Accessible(*bus_, service, path));
+    g_variant_iter_free(iterator);
+    return found;
+}
+
+std::string Accessible::name() const {
+    const auto value = bus_->property(service_, path_, accessibleInterface, "Name");
+    return value && g_variant_is_of_type(value.get(), G_VARIANT_TYPE_STRING)
+               ? g_variant_get_string(value.get(), nullptr)
+               : "";
+}
+
+unsigned Accessible::role() const {
+    guint32 role = 0;
+    const auto answer = call(accessibleInterface, "GetRole");
+    if (answer && g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(u)")))
+        g_variant_get(answer.get(), "(u)", &role);
+    return role;
+}
+
+bool Accessible::isChecked() const {
+    const auto answer = call(accessibleInterface, "GetState");
+    if (!answer || !g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(au)")))
+        return false;
+    const VariantPointer words(g_variant_get_child_value(answer.get(), 0));
+    guint32 first = 0;
+    if (g_variant_n_children(words.get()) > 0)
+        g_variant_get_child(words.get(), 0, "u", &first);
+    return ((first >> checkedState) & 1U) != 0;
+}
+
+std::string Accessible::keyEquivalents() const {
+    const char* keys = "";
+    const auto answer = call(actionInterface, "GetKeyBinding", g_variant_new("(i)", 0));
+    if (answer && g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(s)")))
+        g_variant_get(answer.get(), "(&s)", &keys);
+    return keys;
+}
+
+bool Accessible::activate() const {
+    gboolean done = FALSE;
+    const auto answer = call(actionInterface, "DoAction", g_variant_new("(i)", 0));
+    if (answer && g_variant_is_of_type(answer.get(), G_VARIANT_TYPE("(b)")))
+        g_variant_get(answer.get(), "(b)", &done);
+    return done != FALSE;
+}
+
+std::vector<Accessible> Accessible::menus() const {
+    // The bar is near the top of the window; the walk must not reach a view with all its files.
+    constexpr size_t enough = 60;
+    std::deque<Accessible> queue{*this};
+    for (size_t seen = 0; !queue.empty() && seen < enough; ++seen) {
+        const auto next = queue.front();
+        queue.pop_front();
+        const auto below = next.children();
+        if (next.role() == menuBarRole)
+            return below;
+        if (below.size() <= enough)
+            queue.insert(queue.end(), below.begin(), below.end());
+    }
+    return {};
+}
+
+bool Accessible::hasKey(std::string_view gtkKey, std::string_view qtKey) const {
+    // GTK: the mnemonic, the way through the menus, the key, with semicolons between.
+    const auto keys = keyEquivalents();
+    return keys == qtKey || keys.ends_with(";" + std::string(gtkKey));
+}
+
+std::vector<Accessible> Accessible::commandsWithKey(std::string_view gtkKey,
+                                                    std::string_view qtKey) const {
+    std::vector<Accessible> found;
+    for (const auto& menu : menus()) {
+        auto commands = menu.children();
+        if (commands.size() == 1)  // Qt: the entry in the bar holds the menu, that the commands
+            commands = commands.front().children();
+        std::copy_if(commands.begin(), commands.end(), std::back_inserter(found),
+                     [&](const auto& command) { return command.hasKey(gtkKey, qtKey); });
+    }
+    return found;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "bus.h"
+#include "sent_keys.h"
+
+/// Thunar's windows and the "show hidden files" command in them. Thunar makes its menus when they
+/// are opened, and offers nothing of the kind to other programs, but each window takes the
+/// command's key, and stores what it shows after it as the setting for new windows.
+class Thunar final {
+public:
+    static constexpr const char* service = "org.xfce.Thunar";
+
+    explicit Thunar(const Bus& session) : session_(session) {}
+
+    /// Whether keys reach its windows: an X display, and the command's key as it comes.
+    bool isReachable() const;
+    std::vector<SentKeys::Window> windows() const;
+    /// Turns the display of hidden files over in one window. False when it cannot be sent; what
+    /// comes of it shows in setting().
+    bool toggle(const SentKeys::Window& window) const;
+
+    /// The setting for new windows; none when it was never stored.
+    std::optional<bool> setting() const;
+    /// Stores it, or removes it when there is none, and returns when Thunar knows.
+    void setSetting(std::optional<bool> shown) const;
+
+private:
+    const Bus& session_;
+    SentKeys keys_;
+};

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+/// A running file manager whose windows could not be told, and what a user presses there.
+struct Unreached {
+    std::string manager;
+    std::string keys;
+};
+
+/// Makes the open windows of the desktop's file managers that show the folders of these items
+/// look again at what is hidden there. Selections, scroll positions and the keyboard focus stay;
+/// of the items nothing changes but the time of their last change of attributes.
+std::vector<Unreached> refreshWindows(const std::vector<std::filesystem::path>& items);

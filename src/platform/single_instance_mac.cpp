@@ -1,0 +1,14 @@
+#include "platform/single_instance.h"
+
+// The system itself starts an application once and brings it forward on a second start.
+
+SingleInstance::SingleInstance(const QString& lockFile, QObject* parent)
+    : QObject(parent), lockFile_(lockFile) {}
+
+SingleInstance::~SingleInstance() = default;
+
+void SingleInstance::listen() {}
+
+bool SingleInstance::activateFirst() {
+    return false;
+}
