@@ -329,10 +329,27 @@ def _end_all():
         time.sleep(0.01)
 
 
-def main():
+def _run_as_nobody():
+    """Runs the calling file again as an ordinary user, from where that one may read."""
+    with tempfile.TemporaryDirectory(dir="/tmp") as copy:
+        os.chmod(copy, 0o755)
+        for part in PROGRAM, PROGRAM.parent.parent / "libexec":
+            target = pathlib.Path(copy) / part.relative_to(PROGRAM.parent.parent)
+            target.parent.mkdir(exist_ok=True)
+            (shutil.copytree if part.is_dir() else shutil.copy2)(part, target)
+        tests = shutil.copytree(pathlib.Path(sys.argv[0]).parent, f"{copy}/tests")
+        user = "--reuid=nobody", "--regid=nogroup", "--clear-groups"
+        return subprocess.call(["setpriv", *user, *BOUND[1:], sys.executable, "-B",
+                                f"{tests}/{pathlib.Path(sys.argv[0]).name}",
+                                f"{copy}/bin/{PROGRAM.name}", *sys.argv[1:]], cwd="/")
+
+
+def main(ordinary_user=False):
     """Runs the tests of the calling file: FILE PROGRAM [unittest arguments]"""
     global PROGRAM, ROOM, GLib, pyatspi
     PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
+    if ordinary_user and os.geteuid() == 0:  # whom no permission is refused
+        sys.exit(_run_as_nobody())
     ctypes.CDLL(None).prctl(36, 1)  # orphans of what we start become our children
     ROOM = pathlib.Path(tempfile.mkdtemp(prefix="velmora-end-to-end-", dir="/tmp"))
     try:

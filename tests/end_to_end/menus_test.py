@@ -6,26 +6,6 @@ import desktop
 from desktop import Story, act, click, has, key, middle, type_text, wait, walk, xdotool
 
 
-class FileManager:
-    """Stands in for the file manager that the desktop asks to show an item."""
-    NAME = "org.freedesktop.FileManager1"
-
-    def __init__(self):
-        from gi.repository import Gio
-        self.asked = []
-        interface = Gio.DBusNodeInfo.new_for_xml(
-            f"<node><interface name='{self.NAME}'><method name='ShowItems'><arg type='as' "
-            "direction='in'/><arg type='s' direction='in'/></method></interface></node>")
-        bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-        bus.register_object("/org/freedesktop/FileManager1", interface.interfaces[0],
-                            self.called, None, None)
-        Gio.bus_own_name_on_connection(bus, self.NAME, Gio.BusNameOwnerFlags.NONE, None, None)
-
-    def called(self, _bus, _sender, _path, _interface, _method, arguments, call):
-        self.asked += arguments[0]
-        call.return_value(None)
-
-
 class Menus(Story):
     ITEM = "Open", "Reveal in File Manager", "Remove"
 
@@ -67,33 +47,33 @@ class Menus(Story):
         self.quit(velmora)
 
     def test_item_commands(self):
-        manager = FileManager()
         self.home.recorder("xdg-open")
-        a, folder = self.home.make("a b#", "folder/")
-        self.home.seed(a, folder)
+        _, file, _, folder = self.home.make("x/", "x/a b#", "y/", "y/folder/")
+        self.home.seed(file, folder)
+        manager = self.browse(self.home.files)
+        manager.place(700, 30, 600, 300)
         velmora = self.start()
+        velmora.place(0, 30, 600, 500)
         velmora.menu("File", "Open")
+        uris = [f"xdg-open|{Path(path).as_uri()}" for path in (file, folder)]
+        self.eventually(self.home.records, uris[:1])
+        velmora.menu("File", "Reveal in File Manager")
+        wait(lambda: has(manager.find("a b#"), "SELECTED"), "the file is revealed")
+        xdotool("mousemove", *middle(velmora.row("folder")))
+        velmora.press("Reveal folder")
+        wait(lambda: has(manager.find("folder"), "SELECTED"), "the folder is revealed")
+        self.assertIn(f"search:{folder}\n", velmora.log())
         click(velmora.row("folder"))
         self.eventually(velmora.current, ["folder, Visible"])
         key("ctrl+Return")
-        a_uri, folder_uri = Path(a).as_uri(), Path(folder).as_uri()
-        self.eventually(self.home.records, [f"xdg-open|{a_uri}", f"xdg-open|{folder_uri}"])
-        click(velmora.row("a b#"))
-        velmora.menu("File", "Reveal in File Manager")
-        self.eventually(lambda: manager.asked, [a_uri])
-        xdotool("mousemove", *middle(velmora.row("folder")))
-        velmora.press("Reveal folder")
-        self.eventually(lambda: manager.asked, [a_uri, folder_uri])
-        act(velmora.row("a b#"), "Reveal")
-        self.eventually(lambda: manager.asked[2:], [a_uri])
-        self.assertIn(f"search:{folder}\n", velmora.log())
+        self.eventually(self.home.records, uris)
 
         velmora.menu("File", "Close")
         velmora.menu("View", "Show Item Info")
         self.eventually(velmora.pane, {})
         self.assertEqual(velmora.menu("View")["checked"], [])
         velmora.press("Show item Info")
-        self.eventually(lambda: velmora.pane().get("Where:"), a)
+        self.eventually(lambda: velmora.pane().get("Where:"), folder)
         velmora.menu("View", "Show Item Info")
         self.eventually(velmora.pane, {})
         self.assertEqual(velmora.menu("View")["checked"], ["Show Item Info"])
@@ -107,11 +87,6 @@ class Menus(Story):
         self.eventually(zoomed, True)
         velmora.menu("Window", "Zoom")
         self.eventually(zoomed, False)
-        velmora.menu("Window", "Minimize")
-        wait(lambda: not velmora.window(), "the window is minimised")
-        # A second start brings the first one's window back.
-        subprocess.run([desktop.PROGRAM], env=self.home.environment, check=True, timeout=20)
-        wait(velmora.window, "the window is back")
         velmora.menu("Window", "Bring All to Front")
         self.assertFalse(any(velmora.menu("Edit").values()))  # no text field has the focus
 
@@ -133,8 +108,11 @@ class Menus(Story):
         velmora.menu("Help", "Velmora Help")
         wait(self.home.records, "the help page opens")
         self.assertRegex(self.home.records()[0], "^xdg-open.https://.*how-to")
-        velmora.menu("Velmora", "Quit Velmora")
-        self.assertEqual(velmora.ended(), 0)
+        velmora.menu("Window", "Minimize")
+        wait(lambda: not velmora.window(), "the window is minimised")
+        # A second start brings the first one's window back.
+        subprocess.run([desktop.PROGRAM], env=self.home.environment, check=True, timeout=20)
+        wait(velmora.window, "the window is back")
 
     def test_add(self):
         a, b = self.home.make("a", "b")
@@ -165,10 +143,7 @@ class Menus(Story):
             key(keys)
             self.eventually(velmora.current, [f"{title}, Visible"])
         switch = velmora.find("Visible", "check box")
-        for _ in range(8):
-            if has(switch, "FOCUSED"):
-                break
-            key("Tab")
+        wait(lambda: has(switch, "FOCUSED") or key("Tab"), "the switch has the focus")
         for way, state in (("space", "Hidden"), ("Return", "Visible"), ("ctrl+h", "Hidden"),
                            ("Delete", "Hidden")):
             key(way)
@@ -179,6 +154,8 @@ class Menus(Story):
         self.eventually(velmora.rows, ["alpha, Visible", "gamma, Visible"])
         act(velmora.row("gamma"), "Remove")
         self.eventually(velmora.rows, ["alpha, Visible"])
+        velmora.menu("Velmora", "Quit Velmora")
+        self.assertEqual(velmora.ended(), 0)
 
 
 if __name__ == "__main__":
