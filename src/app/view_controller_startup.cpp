@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QMainWindow>
+#include <QScreen>
 #include <QTimer>
 
 #include "app/app_delegate.h"
@@ -152,6 +153,15 @@ void ViewController::dressWindow() {
     ui_.textScrollCiew->setAcceptDrops(false);
     ui_.invitationPicture->setPixmap(
         image("drop").pixmap(QSize(96, 96), ui_.invitationPicture->devicePixelRatioF()));
+
+    // A larger font gets a larger window and a wider pane.
+    constexpr double usualLine = 15.0;
+    const double scale = std::max(1.0, window_->fontMetrics().height() / usualLine);
+    ui_.informationBackdrop->setMinimumWidth(static_cast<int>(240 * scale));
+    ui_.informationBackdrop->setMaximumWidth(static_cast<int>(480 * scale));
+    window_->resize((QSizeF(window_->size()) * scale)
+                        .toSize()
+                        .boundedTo(window_->screen()->availableSize() - QSize(40, 80)));
 
     QFont titleFont = ui_.filleTitle->font();
     titleFont.setBold(true);

@@ -13,9 +13,10 @@ bool isReadOnly(const QWidget* widget) {
     return readOnly.isValid() && readOnly.toBool();
 }
 
-// The text fields name these commands as their slots; anything else has none of them.
+// The text fields name these commands as their slots; of anything else none is asked, also where
+// it has one of them (a list can select all, but not copy).
 bool canPerform(const QWidget* widget, const QByteArray& command) {
-    if (widget == nullptr) {
+    if (widget == nullptr || widget->metaObject()->indexOfSlot("copy()") < 0) {
         return false;
     }
     const int slot = widget->metaObject()->indexOfSlot(command + "()");
