@@ -1,5 +1,9 @@
+#include <charconv>
+#include <chrono>
 #include <filesystem>
 #include <iostream>
+#include <string>
+#include <thread>
 #include <vector>
 
 #include "refresh.h"
@@ -7,11 +11,22 @@
 /// Prints a line for each running file manager that could not be told: its name, a tab, and the
 /// key that makes it look again.
 int main(int argc, char** argv) {
-    if (argc < 2) {
-        std::cerr << "usage: refresh file ...\n";
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    int seconds = 0;
+    if (arguments.size() > 1 && arguments[0] == "-w") {
+        const auto& text = arguments[1];
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), seconds);
+        if (error != std::errc() || *end != '\0')
+            arguments.clear();
+        else
+            arguments.erase(arguments.begin(), arguments.begin() + 2);
+    }
+    if (arguments.empty()) {
+        std::cerr << "usage: refresh [-w seconds] file ...\n";
         return 1;
     }
-    const std::vector<std::filesystem::path> items(argv + 1, argv + argc);
+    std::this_thread::sleep_for(std::chrono::seconds(seconds));
+    const std::vector<std::filesystem::path> items(arguments.begin(), arguments.end());
     for (const auto& [manager, keys] : refreshWindows(items))
         std::cout << manager << '\t' << keys << '\n';
     return 0;

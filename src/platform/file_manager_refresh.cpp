@@ -1,0 +1,100 @@
+#include "platform/file_manager_refresh.h"
+
+#include <utility>
+
+#include <QSet>
+
+namespace {
+
+/// The system limits a program's arguments. Of very many items, one for each folder has to do.
+QStringList withinLimits(QStringList paths) {
+    constexpr qsizetype limit = 500;
+    paths.removeDuplicates();
+    if (paths.size() <= limit)
+        return paths;
+    QSet<QString> folders;
+    erase_if(paths, [&folders](const QString& path) {
+        const auto count = folders.size();
+        folders.insert(path.left(path.lastIndexOf('/')));
+        return folders.size() == count;
+    });
+    return paths.first(qMin(paths.size(), limit));
+}
+
+QStringList joined(const QList<QStringList>& batches) {
+    QStringList all;
+    for (const auto& batch : batches)
+        all += batch;
+    return withinLimits(all);
+}
+
+}  // namespace
+
+FileManagerRefresh::FileManagerRefresh(QString program, QObject* parent)
+    : QObject(parent), program_(std::move(program)) {
+    turn_.setSingleShot(true);
+    connect(&turn_, &QTimer::timeout, this, &FileManagerRefresh::tellNew);
+    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_.setStandardInputFile(QProcess::nullDevice());
+    connect(&process_, &QProcess::finished, this, &FileManagerRefresh::readAnswer);
+    connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            startNext();
+    });
+}
+
+FileManagerRefresh::~FileManagerRefresh() {
+    process_.disconnect(this);
+    if (!changed_.isEmpty()) {
+        waiting_.append(changed_);
+        repeats_.append(changed_);
+    }
+    if (process_.state() != QProcess::NotRunning) {
+        waiting_.append(process_.arguments());
+        process_.kill();
+        process_.waitForFinished();
+    }
+    if (!waiting_.isEmpty())
+        QProcess::startDetached(program_, joined(waiting_));
+    if (!repeats_.isEmpty()) {
+        const auto seconds = std::chrono::ceil<std::chrono::seconds>(repeatAfter_).count();
+        QProcess::startDetached(program_,
+                                QStringList{"-w", QString::number(seconds)} + joined(repeats_));
+    }
+}
+
+void FileManagerRefresh::itemChanged(const QString& path) {
+    changed_.append(path);
+    turn_.start(0);
+}
+
+void FileManagerRefresh::tellNew() {
+    const auto paths = withinLimits(std::exchange(changed_, {}));
+    repeats_.append(paths);
+    QTimer::singleShot(repeatAfter_, this, &FileManagerRefresh::tellAgain);
+    waiting_.append(paths);
+    startNext();
+}
+
+void FileManagerRefresh::tellAgain() {
+    waiting_.append(repeats_.takeFirst());
+    startNext();
+}
+
+void FileManagerRefresh::startNext() {
+    if (!waiting_.isEmpty() && process_.state() == QProcess::NotRunning)
+        process_.start(program_, waiting_.takeFirst());
+}
+
+void FileManagerRefresh::readAnswer() {
+    QList<Unreached> found;
+    const auto lines =
+        QString::fromUtf8(process_.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+    for (const auto& line : lines)
+        found.append({line.section('\t', 0, 0), line.section('\t', 1)});
+    if (found != unreached_) {
+        unreached_ = found;
+        emit unreachedChanged();
+    }
+    startNext();
+}
