@@ -14,7 +14,7 @@ namespace {
 
 /// On the thread of the save. Null on success, or else the reason.
 QString saveSnapshot(const QString& file, const QString& backup, const StoreContents& snapshot) {
-    const QString reason = replaceStore(file, snapshot);
+    QString reason = replaceStore(file, snapshot);
     // Only after the file itself, so that one of the two is good whatever happens to the other.
     if (reason.isNull())
         replaceStore(backup, snapshot);
@@ -32,6 +32,12 @@ std::unique_ptr<Store> Store::open(const QString& file) {
 }
 
 JsonStore::JsonStore(const QString& file) : file_(file), backup_(file + QStringLiteral(".bak")) {
+    const auto finish = [this](int number) {
+        // synchronize() may have been quicker.
+        if (save_.valid() && number == saveNumber_)
+            finishSave();
+    };
+    connect(this, &JsonStore::saveEnded, this, finish, Qt::QueuedConnection);
     load();
 }
 
@@ -135,13 +141,10 @@ void JsonStore::startSave() {
     if (!keepOldFile())
         return;
     unsaved_ = false;
-    const auto finish = [this, number = ++saveNumber_] {
-        if (save_.valid() && number == saveNumber_)
-            finishSave();
-    };
-    const auto save = [this, finish, file = file_, backup = backup_, snapshot = contents_] {
-        const QString reason = saveSnapshot(file, backup, snapshot);
-        QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
+    const auto save = [this, number = ++saveNumber_, file = file_, backup = backup_,
+                       snapshot = contents_] {
+        QString reason = saveSnapshot(file, backup, snapshot);
+        emit saveEnded(number);
         return reason;
     };
     save_ = std::async(std::launch::async, save);

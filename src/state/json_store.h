@@ -20,6 +20,10 @@ public:
     bool synchronize() override;
     QString problem() const override;
 
+signals:
+    /// Sent from the thread of the save.
+    void saveEnded(int number);
+
 private:
     void load();
     bool keepOldFile();

@@ -139,7 +139,7 @@ void removeStaleTemporaries(const QString& file) {
 
 QString replaceStore(const QString& file, const StoreContents& contents) {
     const QByteArray target = QFile::encodeName(linkTarget(file));
-    if (const QString reason = makeFolderOf(file); !reason.isNull())
+    if (QString reason = makeFolderOf(file); !reason.isNull())
         return reason;
     QByteArray temporary = target + temporaryInfix.latin1() + "XXXXXX";
     FileDescriptor output(::mkostemp(temporary.data(), O_CLOEXEC));
@@ -148,7 +148,7 @@ QString replaceStore(const QString& file, const StoreContents& contents) {
     ::flock(output.get(), LOCK_EX | LOCK_NB);
     if (!writeContents(output, contents) ||
         ::rename(temporary.constData(), target.constData()) != 0) {
-        const QString reason = lastError();
+        QString reason = lastError();
         ::unlink(temporary.constData());
         return reason;
     }

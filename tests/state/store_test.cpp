@@ -395,9 +395,9 @@ void StoreTest::failedSaveLeavesTheOldFile() {
     QCOMPARE(copyBefore, before);
 
     QSignalSpy told(&defaults, &UserDefaults::problemChanged);
+    const ItemList list = listOf(10'000, "new");
     const auto fail = [&] {
-        // Several writes long, one of which is taken in part only.
-        defaults.setItemList(listOf(10'000, "new"));
+        defaults.setItemList(list);
         QTRY_COMPARE(told.size(), 1);
         QVERIFY(!defaults.synchronize());
         QVERIFY(defaults.problem().startsWith("The settings could not be saved: "));
@@ -409,7 +409,11 @@ void StoreTest::failedSaveLeavesTheOldFile() {
         fail();
     } else {
         std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit small{100'001, RLIM_INFINITY};
+        rlim_t size = 0;
+        encodeStore({{itemListKey, QVariant::fromValue(list)}},
+                    [&size](const char*, std::size_t count) { return (size += count) > 0; });
+        // The last write is taken in part, and no other comes that would fail.
+        const rlimit small{size - 100, RLIM_INFINITY};
         QVERIFY(::setrlimit(RLIMIT_FSIZE, &small) == 0);
         fail();
         const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
