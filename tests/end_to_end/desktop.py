@@ -1,0 +1,335 @@
+"""A private desktop for one test file: a virtual display with a window manager and a session bus,
+and drivers for the real programs on it. Nothing of the user's own session or home is touched."""
+import ctypes, json, os, pathlib, shutil, signal, subprocess, sys, tempfile, time, unittest
+
+PROGRAM = pathlib.Path()  # the velmora under test, companions in ../libexec/velmora beside it
+ROOM = pathlib.Path()     # every file of this run, removed at its end
+BOUND = ["setpriv", "--pdeathsig", "KILL", "--"]  # what we start does not outlive us
+
+
+def wait(question, what, timeout=20):
+    """Asks until the answer is true, and returns it."""
+    end = time.monotonic() + timeout
+    while True:
+        while GLib.MainContext.default().iteration(False):
+            pass
+        try:
+            if answer := question():
+                return answer
+        except (GLib.Error, LookupError):  # what was looked at has just gone
+            pass
+        if time.monotonic() > end:
+            raise AssertionError(f"not within {timeout} s: {what() if callable(what) else what}")
+        time.sleep(0.02)
+
+
+def xdotool(*words):
+    return subprocess.run(["xdotool", *map(str, words)], check=True, capture_output=True,
+                          text=True, timeout=60).stdout
+
+
+def key(*keys):
+    xdotool("key", "--delay", 5, *keys)
+
+
+def type_text(text):
+    xdotool("type", "--delay", 2, text)
+
+
+def middle(node):
+    box = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+    return box.x + box.width // 2, box.y + box.height // 2
+
+
+def click(node, *more):
+    xdotool("mousemove", *middle(node), *more, "click", 1)
+
+
+def drag(nodes, target):
+    """Drags what the nodes show, with one gesture of the mouse."""
+    if nodes[1:]:  # two presses in one place would be a double-click
+        click(nodes[0])
+    for node in nodes[1:]:
+        xdotool("keydown", "ctrl", "mousemove", *middle(node), "click", 1, "keyup", "ctrl")
+    (x, y), (tx, ty) = middle(nodes[0]), middle(target)
+    xdotool("mousemove", x, y, "mousedown", 1)
+    for step in range(1, 19):  # a drag goes through many small moves, each answered by the target
+        xdotool("mousemove", x + (tx - x) * min(step, 12) // 12 + step % 2,
+                y + (ty - y) * min(step, 12) // 12)
+    xdotool("mouseup", 1)
+
+
+def has(node, *states):
+    found = node.getState()
+    return all(found.contains(state) for state in states)
+
+
+def walk(node):
+    yield node
+    for child in node:
+        if child is not None:
+            yield from walk(child)
+
+
+class Home:
+    """The folders and the environment of one user."""
+
+    def __init__(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(dir=ROOM))
+        self.files, self.bin = self.folder / "files", self.folder / "bin"
+        for name in "files", "bin", "config", "data", "cache", "state", "run", "tmp":
+            (self.folder / name).mkdir(mode=0o700)
+        self.environment = {
+            **os.environ, "HOME": str(self.folder), "PATH": f"{self.bin}:{os.environ['PATH']}",
+            "TMPDIR": str(self.folder / "tmp"), "XDG_RUNTIME_DIR": str(self.folder / "run"),
+            **{f"XDG_{name.upper()}_HOME": str(self.folder / name)
+               for name in ("config", "data", "cache", "state")}}
+        self.recorded = self.folder / "recorded"
+
+    def make(self, *names):
+        """Makes files, and folders where the name ends in a slash."""
+        made = [self.files / name for name in names]
+        for path, name in zip(made, names):
+            path.mkdir() if name.endswith("/") else path.write_bytes(b"x" * 8192)
+        return [str(path) for path in made]
+
+    def recorder(self, *commands, folder=None, says=""):
+        """Puts a command in place that does nothing but note how it was called."""
+        for command in commands:
+            script = (folder or self.bin) / command
+            script.unlink(missing_ok=True)
+            script.write_text("#!/bin/sh\n{ printf '%s' \"${0##*/}\"; printf '|%s' \"$@\"; echo; }"
+                              f" >>'{self.recorded}'\nprintf '{says}'\n")
+            script.chmod(0o755)
+
+    def records(self):
+        return self.recorded.read_text().splitlines() if self.recorded.exists() else []
+
+    def hidden(self, path):
+        """What the desktop's own file library says."""
+        said = subprocess.run(["gio", "info", "-a", "standard::is-hidden", path], check=True,
+                              env=self.environment, capture_output=True, text=True).stdout
+        return "standard::is-hidden: TRUE" in said
+
+
+class Application:
+    """A running program, seen and moved through its windows alone."""
+
+    def __init__(self, home, *command):
+        self.home = home
+        self.log_file = home.folder / f"{pathlib.Path(command[0]).name}.log"
+        with open(self.log_file, "ab") as log:
+            self.process = subprocess.Popen([*BOUND, *command], env=home.environment, stderr=log,
+                                            stdin=subprocess.DEVNULL, stdout=log)
+        self.tree = wait(self._tree, f"{command[0]} is on the desktop")
+
+    def _tree(self):
+        assert self.process.poll() is None, f"ended with {self.process.returncode}: {self.log()}"
+        for application in pyatspi.Registry.getDesktop(0):
+            if application is not None and application.get_process_id() == self.process.pid \
+                    and application.childCount:
+                return application
+
+    def log(self):
+        return self.log_file.read_text(errors="replace")
+
+    def shown(self, name, *roles):
+        """The showing controls of this name, those of the front window first."""
+        windows = sorted(self.tree, key=lambda window: not has(window, pyatspi.STATE_ACTIVE))
+        return [node for window in windows for node in walk(window)
+                if node.name == name and (not roles or node.getRoleName() in roles)
+                and has(node, pyatspi.STATE_SHOWING)]
+
+    def find(self, name, *roles):
+        return wait(lambda: self.shown(name, *roles), f"“{name}” shows")[0]
+
+    def press(self, name, *roles):
+        click(self.find(name, *roles))
+
+    def place(self, x, y, width, height):
+        window = xdotool("search", "--sync", "--onlyvisible", "--pid", self.process.pid).split()[0]
+        xdotool("windowsize", window, width, height, "windowmove", window, x, y)
+        wait(lambda: abs(self.tree[0].queryComponent().getExtents(0).x - x) < 20,
+             f"the window is at {x}")
+
+    def ended(self, timeout=20):
+        """Waits for the program to end by itself."""
+        wait(lambda: self.process.poll() is not None, "the program ends", timeout)
+        return self.process.returncode
+
+    def stop(self):
+        if self.process.poll() is None:
+            self.process.terminate()
+            try:
+                self.process.wait(20)
+            except subprocess.TimeoutExpired:
+                self.process.kill()
+                raise
+
+
+class Velmora(Application):
+    """The program under test."""
+
+    def __init__(self, home, program=None):
+        super().__init__(home, str(program or PROGRAM))
+        self.items = self.find("Items")
+
+    @staticmethod
+    def store_of(home):
+        return home.folder / "config/velmora/defaults.json"
+
+    def store(self):
+        file = self.store_of(self.home)
+        return json.loads(file.read_text()) if file.exists() else {}
+
+    def stored(self):
+        """The stored list as pairs of title and visibility."""
+        return [(record["fileTitle"], record["visible"])
+                for record in self.store().get("fileListView_List", [])]
+
+    def row_nodes(self):
+        return [row for row in self.items if row.getRoleName() == "list item"]
+
+    def rows(self):
+        return [row.name for row in self.row_nodes()]
+
+    def row(self, title):
+        return wait(lambda: [row for row in self.row_nodes() if row.name.startswith(f"{title}, ")],
+                    f"the row of {title}")[0]
+
+    def current(self):
+        return [row.name for row in self.row_nodes() if has(row, pyatspi.STATE_SELECTED)]
+
+    def pane(self):
+        """The information pane: its captions with their values."""
+        texts = [node.name for node in walk(self.tree[0]) if node.getRoleName() == "label"
+                 and has(node, pyatspi.STATE_SHOWING)]
+        return {text: texts[index + 1] for index, text in enumerate(texts) if text.endswith(":")}
+
+    def checked(self, name):
+        return has(self.find(name, "check box"), pyatspi.STATE_CHECKED)
+
+    def open_menu(self, title):
+        menu = self.find(title, "menu item", "menu")
+        click(menu)
+        wait(lambda: any(has(item, pyatspi.STATE_SHOWING) for item in walk(menu)
+                         if item != menu), f"the menu {title} opens")
+        return menu
+
+    def menu(self, title):
+        """What a menu offers: titles with whether they can be chosen, and with their check mark."""
+        offered = {item.name: (has(item, pyatspi.STATE_ENABLED), has(item, pyatspi.STATE_CHECKED))
+                   for item in walk(self.open_menu(title))
+                   if item.name and has(item, pyatspi.STATE_SHOWING)}
+        key("Escape", "Escape")
+        return offered
+
+    def command(self, menu, title):
+        self.open_menu(menu)
+        self.press(title, "menu item", "check menu item")
+
+
+class Story(unittest.TestCase):
+    """A test with a home of its own. When it fails, what the screen and the logs held is kept."""
+
+    def __init__(self, name):
+        super().__init__(name)
+        test = getattr(self, name)
+
+        def keeping():
+            try:
+                test()
+            except BaseException:
+                kept = tempfile.mkdtemp(prefix=f"velmora-failure-{name}-", dir="/tmp")
+                subprocess.run(["import", "-window", "root", f"{kept}/screen.png"], check=False)
+                for log in self.home.folder.glob("*.log"):
+                    shutil.copy(log, kept)
+                print(f"\n{name} failed: see {kept}", file=sys.stderr)
+                raise
+        setattr(self, name, keeping)
+
+    def setUp(self):
+        self.home = Home()
+
+    def start(self, program=None):
+        velmora = Velmora(self.home, program)
+        self.addCleanup(velmora.stop)
+        return velmora
+
+    def browse(self, folder):
+        manager = Application(self.home, "pcmanfm-qt", str(folder))
+        self.addCleanup(manager.stop)
+        return manager
+
+    def eventually(self, question, expected):
+        """Waits for an answer, and shows the last one when it never comes."""
+        last = []
+
+        def asked():
+            last[:] = [question()]
+            return last[0] == expected
+        wait(asked, lambda: f"expected {expected!r}, last seen {last}")
+
+    def quit(self, velmora, by="alt+F4"):
+        key(by)
+        self.assertEqual(velmora.ended(), 0, velmora.log())
+
+
+def _descendants():
+    parents = {}
+    for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):
+        try:
+            parents[int(stat.parent.name)] = int(stat.read_text().rpartition(")")[2].split()[1])
+        except OSError:  # ended meanwhile
+            pass
+    found = {os.getpid()}
+    while more := {pid for pid, parent in parents.items() if parent in found} - found:
+        found |= more
+    return found - {os.getpid()}
+
+
+def _end_all():
+    """Ends all that this process started, also what has left its parent."""
+    while pids := _descendants():
+        for pid in pids:
+            try:
+                os.kill(pid, signal.SIGKILL)
+                os.waitpid(pid, os.WNOHANG)
+            except (ProcessLookupError, ChildProcessError):
+                pass
+        time.sleep(0.01)
+
+
+def main():
+    """Runs the tests of the calling file: FILE PROGRAM [unittest arguments]"""
+    global PROGRAM, ROOM, GLib, pyatspi
+    PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
+    ctypes.CDLL(None).prctl(36, 1)  # orphans of what we start become our children
+    ROOM = pathlib.Path(tempfile.mkdtemp(prefix="velmora-end-to-end-", dir="/tmp"))
+    try:
+        os.environ.update(LC_ALL="C.UTF-8", GSETTINGS_BACKEND="keyfile", QT_QPA_PLATFORM="xcb",
+                          QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1", NO_AT_BRIDGE="0",
+                          XDG_CURRENT_DESKTOP="X-Test")
+        os.environ.update(Home().environment)
+        reading, writing = os.pipe()
+        subprocess.Popen([*BOUND, "Xvfb", "-displayfd", str(writing), "-ac", "-nolisten", "tcp",
+                          "-screen", "0", "1400x900x24"], pass_fds=[writing],
+                         stderr=subprocess.DEVNULL)
+        os.close(writing)
+        os.environ["DISPLAY"] = ":" + os.fdopen(reading).readline().strip()
+        bus = subprocess.Popen([*BOUND, "dbus-daemon", "--session", "--nofork", "--print-address"],
+                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        os.environ["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
+        subprocess.Popen([*BOUND, "openbox"], stdout=subprocess.DEVNULL,
+                         stderr=subprocess.DEVNULL)
+        from gi.repository import GLib  # these two connect to the bus that they find
+        import pyatspi
+        pyatspi.Registry.getDesktop(0).set_cache_mask(pyatspi.Atspi.Cache.NONE)
+        wait(lambda: b"window id" in subprocess.run(
+            ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True).stdout,
+             "a window manager runs")
+        tests = unittest.main(module="__main__", exit=False, verbosity=2, warnings="ignore")
+    finally:
+        _end_all()
+        shutil.rmtree(ROOM, ignore_errors=True)
+    sys.exit(not tests.result.wasSuccessful())
