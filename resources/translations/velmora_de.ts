@@ -8,8 +8,8 @@
         <translation>%1 um %2</translation>
     </message>
     <message>
-        <source>Press F5 in %1 to see the change.</source>
-        <translation>Drücken Sie F5 in %1, um die Änderung zu sehen.</translation>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>Drücken Sie %1 in %2, um die Änderung zu sehen.</translation>
     </message>
     <message>
         <source>uQy-DD-JDr.title</source>

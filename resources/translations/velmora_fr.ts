@@ -8,8 +8,8 @@
         <translation>%1 à %2</translation>
     </message>
     <message>
-        <source>Press F5 in %1 to see the change.</source>
-        <translation>Appuyez sur F5 dans %1 pour voir le changement.</translation>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>Appuyez sur %1 dans %2 pour voir le changement.</translation>
     </message>
     <message>
         <source>uQy-DD-JDr.title</source>

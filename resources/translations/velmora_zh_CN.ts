@@ -8,8 +8,8 @@
         <translation>%1 %2</translation>
     </message>
     <message>
-        <source>Press F5 in %1 to see the change.</source>
-        <translation>请在 %1 中按 F5 查看更改。</translation>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>请在 %2 中按 %1 查看更改。</translation>
     </message>
     <message>
         <source>uQy-DD-JDr.title</source>

@@ -32,7 +32,8 @@ ViewController::ViewController(QMainWindow* window, AppDelegate& delegate, OpenP
       ui_(delegate.outlets()),
       openPanel_(std::move(openPanel)),
       informationPane_(ui_),
-      quietLine_(ui_.quietLine) {}
+      quietLine_(ui_.quietLine),
+      refresh_(Shell::defaultCompanionsFolder() + QStringLiteral("/refresh")) {}
 
 ViewController::~ViewController() {
     // Two names are left in place; an observer that is gone is never called.
@@ -225,6 +226,7 @@ void ViewController::connectControls() {
             [this](const QString& text) { quietLine_.say(QuietLine::Drop, text); });
     connect(&visibility_, &ItemVisibility::checked, this,
             [this](const QString& message) { quietLine_.say(QuietLine::Item, message); });
+    connect(&refresh_, &FileManagerRefresh::unreachedChanged, this, &ViewController::sayUnreached);
     if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
         // A handler that failed may have changed the list in memory: show what is there.
         connect(application, &Application::exceptionReported, this,
