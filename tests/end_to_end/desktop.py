@@ -1,6 +1,6 @@
 """A private desktop for one test file: a virtual display with a window manager and a session bus,
 and drivers for the real programs on it. Nothing of the user's own session or home is touched."""
-import ctypes, functools, json, os, pathlib, shutil, signal, subprocess, sys, tempfile, time, unittest
+import contextlib, ctypes, functools, json, os, pathlib, shutil, signal, subprocess, sys, tempfile, time, unittest
 
 PROGRAM = pathlib.Path()  # the velmora under test, companions in ../libexec/velmora beside it
 ROOM = pathlib.Path()     # every file of this run, removed at its end
@@ -329,10 +329,11 @@ def _end_all():
         time.sleep(0.01)
 
 
-def main():
-    """Runs the tests of the calling file: FILE PROGRAM [unittest arguments]"""
+@contextlib.contextmanager
+def session(program):
+    """The private desktop, for the program that is to be driven on it."""
     global PROGRAM, ROOM, GLib, pyatspi
-    PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
+    PROGRAM = pathlib.Path(program).resolve()
     ctypes.CDLL(None).prctl(36, 1)  # orphans of what we start become our children
     ROOM = pathlib.Path(tempfile.mkdtemp(prefix="velmora-end-to-end-", dir="/tmp"))
     try:
@@ -357,8 +358,14 @@ def main():
         wait(lambda: b"window id" in subprocess.run(
             ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True).stdout,
              "a window manager runs")
-        tests = unittest.main(module="__main__", exit=False, verbosity=2, warnings="ignore")
+        yield
     finally:
         _end_all()
         shutil.rmtree(ROOM, ignore_errors=True)
+
+
+def main():
+    """Runs the tests of the calling file: FILE PROGRAM [unittest arguments]"""
+    with session(sys.argv.pop(1)):
+        tests = unittest.main(module="__main__", exit=False, verbosity=2, warnings="ignore")
     sys.exit(not tests.result.wasSuccessful())
