@@ -4,6 +4,14 @@
 <context>
     <name>Main</name>
     <message>
+        <source>%1 at %2</source>
+        <translation>%1 um %2</translation>
+    </message>
+    <message>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>Drücken Sie %1 in %2, um die Änderung zu sehen.</translation>
+    </message>
+    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>
@@ -307,6 +315,104 @@ aus dem Dateimanager hierher ziehen</translation>
     <message>
         <source>Close</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>DragDropTableView</name>
+    <message>
+        <source>Reveal in the file manager</source>
+        <translation>In der Dateiverwaltung zeigen</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>DragDropView</name>
+    <message>
+        <source>Reveal in File Manager</source>
+        <translation>In der Dateiverwaltung zeigen</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Aus der Liste entfernen</translation>
+    </message>
+    <message>
+        <source>Some of the dropped items could not be added: their names or places are not files on this computer that can be written as text.</source>
+        <translation>Einige der abgelegten Objekte konnten nicht hinzugefügt werden: Sie liegen nicht auf diesem Computer, oder ihr Name ist kein gültiger Text.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemButton</name>
+    <message>
+        <source>sorted in ascending order</source>
+        <translation>aufsteigend sortiert</translation>
+    </message>
+    <message>
+        <source>sorted in descending order</source>
+        <translation>absteigend sortiert</translation>
+    </message>
+</context>
+<context>
+    <name>ItemVisibility</name>
+    <message>
+        <source>its path holds an apostrophe, which the command cannot take.</source>
+        <translation>Der Pfad enthält einen Apostroph, den der Befehl nicht annimmt.</translation>
+    </message>
+    <message>
+        <source>its name holds a line break, which file managers cannot hide.</source>
+        <translation>Der Name enthält einen Zeilenumbruch, den Dateiverwaltungen nicht verstecken können.</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written.</source>
+        <translation>In den Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>the change was not carried out.</source>
+        <translation>Die Änderung wurde nicht ausgeführt.</translation>
+    </message>
+    <message>
+        <source>“%1” no longer exists.</source>
+        <translation>„%1“ ist nicht mehr vorhanden.</translation>
+    </message>
+    <message>
+        <source>“%1” is still hidden: %2</source>
+        <translation>„%1“ ist noch versteckt: %2</translation>
+    </message>
+    <message>
+        <source>“%1” is still visible: %2</source>
+        <translation>„%1“ ist noch sichtbar: %2</translation>
+    </message>
+</context>
+<context>
+    <name>UserDefaults</name>
+    <message>
+        <source>The settings held no proper item list. They were kept as “%1” before the new list was saved.</source>
+        <translation>Die Einstellungen enthielten keine gültige Liste. Sie wurden als „%1“ aufbewahrt, bevor die neue Liste gespeichert wurde.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Die Einstellungen konnten nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The settings could not be read. They were kept as “%1”, and the last good copy is used.</source>
+        <translation>Die Einstellungen konnten nicht gelesen werden. Sie wurden als „%1“ aufbewahrt; die letzte gute Kopie wird verwendet.</translation>
+    </message>
+    <message>
+        <source>The settings could not be read. They were kept as “%1”, and there was no good copy to use instead.</source>
+        <translation>Die Einstellungen konnten nicht gelesen werden. Sie wurden als „%1“ aufbewahrt; eine gute Kopie war nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>The settings file “%1” could not be used and could not be kept under another name, so changes are not saved.</source>
+        <translation>Die Einstellungsdatei „%1“ war nicht brauchbar und konnte nicht umbenannt werden; Änderungen werden nicht gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>WrapLabel</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,14 @@
 <context>
     <name>Main</name>
     <message>
+        <source>%1 at %2</source>
+        <translation>%1 à %2</translation>
+    </message>
+    <message>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>Appuyez sur %1 dans %2 pour voir le changement.</translation>
+    </message>
+    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>
@@ -307,6 +315,104 @@ depuis votre gestionnaire de fichiers</translation>
     <message>
         <source>Close</source>
         <translation>Fermer</translation>
+    </message>
+</context>
+<context>
+    <name>DragDropTableView</name>
+    <message>
+        <source>Reveal in the file manager</source>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>Retirer de la liste</translation>
+    </message>
+</context>
+<context>
+    <name>DragDropView</name>
+    <message>
+        <source>Reveal in File Manager</source>
+        <translation>Afficher dans le gestionnaire de fichiers</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>Retirer de la liste</translation>
+    </message>
+    <message>
+        <source>Some of the dropped items could not be added: their names or places are not files on this computer that can be written as text.</source>
+        <translation>Certains des éléments déposés n’ont pas pu être ajoutés : ils ne se trouvent pas sur cet ordinateur, ou leur nom n’est pas un texte valide.</translation>
+    </message>
+</context>
+<context>
+    <name>ItemButton</name>
+    <message>
+        <source>sorted in ascending order</source>
+        <translation>trié par ordre croissant</translation>
+    </message>
+    <message>
+        <source>sorted in descending order</source>
+        <translation>trié par ordre décroissant</translation>
+    </message>
+</context>
+<context>
+    <name>ItemVisibility</name>
+    <message>
+        <source>its path holds an apostrophe, which the command cannot take.</source>
+        <translation>son chemin contient une apostrophe, que la commande n’accepte pas.</translation>
+    </message>
+    <message>
+        <source>its name holds a line break, which file managers cannot hide.</source>
+        <translation>son nom contient un saut de ligne, que les gestionnaires de fichiers ne peuvent pas masquer.</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written.</source>
+        <translation>son dossier n’est pas accessible en écriture.</translation>
+    </message>
+    <message>
+        <source>the change was not carried out.</source>
+        <translation>le changement n’a pas été effectué.</translation>
+    </message>
+    <message>
+        <source>“%1” no longer exists.</source>
+        <translation>« %1 » n’existe plus.</translation>
+    </message>
+    <message>
+        <source>“%1” is still hidden: %2</source>
+        <translation>« %1 » est toujours masqué : %2</translation>
+    </message>
+    <message>
+        <source>“%1” is still visible: %2</source>
+        <translation>« %1 » est toujours visible : %2</translation>
+    </message>
+</context>
+<context>
+    <name>UserDefaults</name>
+    <message>
+        <source>The settings held no proper item list. They were kept as “%1” before the new list was saved.</source>
+        <translation>Les réglages ne contenaient pas de liste valide. Ils ont été conservés sous « %1 » avant l’enregistrement de la nouvelle liste.</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>Les réglages n’ont pas pu être enregistrés : %1</translation>
+    </message>
+    <message>
+        <source>The settings could not be read. They were kept as “%1”, and the last good copy is used.</source>
+        <translation>Les réglages n’ont pas pu être lus. Ils ont été conservés sous « %1 » et la dernière bonne copie est utilisée.</translation>
+    </message>
+    <message>
+        <source>The settings could not be read. They were kept as “%1”, and there was no good copy to use instead.</source>
+        <translation>Les réglages n’ont pas pu être lus. Ils ont été conservés sous « %1 » ; il n’y avait pas de bonne copie.</translation>
+    </message>
+    <message>
+        <source>The settings file “%1” could not be used and could not be kept under another name, so changes are not saved.</source>
+        <translation>Le fichier de réglages « %1 » est inutilisable et n’a pas pu être renommé ; les changements ne sont pas enregistrés.</translation>
+    </message>
+</context>
+<context>
+    <name>WrapLabel</name>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
     </message>
 </context>
 </TS>

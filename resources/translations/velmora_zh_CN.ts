@@ -4,6 +4,14 @@
 <context>
     <name>Main</name>
     <message>
+        <source>%1 at %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>请在 %2 中按 %1 查看更改。</translation>
+    </message>
+    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>
@@ -307,6 +315,104 @@
     <message>
         <source>Close</source>
         <translation>关闭</translation>
+    </message>
+</context>
+<context>
+    <name>DragDropTableView</name>
+    <message>
+        <source>Reveal in the file manager</source>
+        <translation>在文件管理器中显示</translation>
+    </message>
+    <message>
+        <source>Remove from the list</source>
+        <translation>从列表中移除</translation>
+    </message>
+</context>
+<context>
+    <name>DragDropView</name>
+    <message>
+        <source>Reveal in File Manager</source>
+        <translation>在文件管理器中显示</translation>
+    </message>
+    <message>
+        <source>Remove from List</source>
+        <translation>从列表中移除</translation>
+    </message>
+    <message>
+        <source>Some of the dropped items could not be added: their names or places are not files on this computer that can be written as text.</source>
+        <translation>部分拖入的项目无法添加：它们不在这台电脑上，或名称不是有效的文本。</translation>
+    </message>
+</context>
+<context>
+    <name>ItemButton</name>
+    <message>
+        <source>sorted in ascending order</source>
+        <translation>升序排列</translation>
+    </message>
+    <message>
+        <source>sorted in descending order</source>
+        <translation>降序排列</translation>
+    </message>
+</context>
+<context>
+    <name>ItemVisibility</name>
+    <message>
+        <source>its path holds an apostrophe, which the command cannot take.</source>
+        <translation>路径中含有单引号，命令无法处理。</translation>
+    </message>
+    <message>
+        <source>its name holds a line break, which file managers cannot hide.</source>
+        <translation>名称中含有换行符，文件管理器无法隐藏。</translation>
+    </message>
+    <message>
+        <source>its folder cannot be written.</source>
+        <translation>所在文件夹不可写。</translation>
+    </message>
+    <message>
+        <source>the change was not carried out.</source>
+        <translation>更改未能执行。</translation>
+    </message>
+    <message>
+        <source>“%1” no longer exists.</source>
+        <translation>“%1”已不存在。</translation>
+    </message>
+    <message>
+        <source>“%1” is still hidden: %2</source>
+        <translation>“%1”仍处于隐藏状态：%2</translation>
+    </message>
+    <message>
+        <source>“%1” is still visible: %2</source>
+        <translation>“%1”仍然可见：%2</translation>
+    </message>
+</context>
+<context>
+    <name>UserDefaults</name>
+    <message>
+        <source>The settings held no proper item list. They were kept as “%1” before the new list was saved.</source>
+        <translation>设置中没有有效的项目列表。保存新列表之前，原设置已保留为“%1”。</translation>
+    </message>
+    <message>
+        <source>The settings could not be saved: %1</source>
+        <translation>无法保存设置：%1</translation>
+    </message>
+    <message>
+        <source>The settings could not be read. They were kept as “%1”, and the last good copy is used.</source>
+        <translation>无法读取设置。原文件已保留为“%1”，现使用最后一份完好的副本。</translation>
+    </message>
+    <message>
+        <source>The settings could not be read. They were kept as “%1”, and there was no good copy to use instead.</source>
+        <translation>无法读取设置。原文件已保留为“%1”，且没有可用的副本。</translation>
+    </message>
+    <message>
+        <source>The settings file “%1” could not be used and could not be kept under another name, so changes are not saved.</source>
+        <translation>设置文件“%1”无法使用，也无法另存为其他名称，因此更改不会保存。</translation>
+    </message>
+</context>
+<context>
+    <name>WrapLabel</name>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
     </message>
 </context>
 </TS>

@@ -7,6 +7,7 @@
 #include "app/quiet_line.h"
 #include "hiding/information_pane.h"
 #include "list/drag_drop_view.h"
+#include "platform/file_manager_refresh.h"
 #include "platform/item_visibility.h"
 #include "platform/open_panel.h"
 
@@ -84,6 +85,7 @@ private:
     void updateItemCommands(bool visible);
     void updatePasswordCommand();
     void setPasswordItemTitle();
+    void sayUnreached();
     void presentAsModalWindow(RDPasswordViewController* dialog);
 
     QMainWindow* window_;
@@ -94,6 +96,7 @@ private:
     InformationPane informationPane_;
     QuietLine quietLine_;
     ItemVisibility visibility_;
+    FileManagerRefresh refresh_;
     QString selectPath_;
     bool canReSetRequirtPassword_ = false;
 };

@@ -1,5 +1,6 @@
 #include <QLabel>
 #include <QMainWindow>
+#include <QScreen>
 #include <QTimer>
 
 #include "app/app_delegate.h"
@@ -31,7 +32,8 @@ ViewController::ViewController(QMainWindow* window, AppDelegate& delegate, OpenP
       ui_(delegate.outlets()),
       openPanel_(std::move(openPanel)),
       informationPane_(ui_),
-      quietLine_(ui_.quietLine) {}
+      quietLine_(ui_.quietLine),
+      refresh_(Shell::defaultCompanionsFolder() + QStringLiteral("/refresh")) {}
 
 ViewController::~ViewController() {
     // Two names are left in place; an observer that is gone is never called.
@@ -153,6 +155,15 @@ void ViewController::dressWindow() {
     ui_.invitationPicture->setPixmap(
         image("drop").pixmap(QSize(96, 96), ui_.invitationPicture->devicePixelRatioF()));
 
+    // A larger font gets a larger window and a wider pane.
+    constexpr double usualLine = 15.0;
+    const double scale = std::max(1.0, window_->fontMetrics().height() / usualLine);
+    ui_.informationBackdrop->setMinimumWidth(static_cast<int>(240 * scale));
+    ui_.informationBackdrop->setMaximumWidth(static_cast<int>(480 * scale));
+    window_->resize((QSizeF(window_->size()) * scale)
+                        .toSize()
+                        .boundedTo(window_->screen()->availableSize() - QSize(40, 80)));
+
     QFont titleFont = ui_.filleTitle->font();
     titleFont.setBold(true);
     titleFont.setPointSizeF(titleFont.pointSizeF() * 1.2);
@@ -215,6 +226,7 @@ void ViewController::connectControls() {
             [this](const QString& text) { quietLine_.say(QuietLine::Drop, text); });
     connect(&visibility_, &ItemVisibility::checked, this,
             [this](const QString& message) { quietLine_.say(QuietLine::Item, message); });
+    connect(&refresh_, &FileManagerRefresh::unreachedChanged, this, &ViewController::sayUnreached);
     if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
         // A handler that failed may have changed the list in memory: show what is there.
         connect(application, &Application::exceptionReported, this,

@@ -5,6 +5,7 @@
 #include "controls/rd_custom_button.h"
 #include "controls/rd_switch_button.h"
 #include "hiding/command_lines.h"
+#include "platform/bundle.h"
 #include "platform/shell.h"
 #include "ui_Main.h"
 
@@ -45,6 +46,7 @@ void ViewController::touchSwitch(RDSwitchButton* sender) {
     list->reloadData();
     // The record keeps what was asked; the quiet line tells when the item is not so.
     visibility_.check(selectPath_, visible);
+    refresh_.itemChanged(selectPath_);
 }
 
 void ViewController::updateItemCommands(bool visible) {
@@ -55,6 +57,16 @@ void ViewController::updateItemCommands(bool visible) {
     ui_.openMenuItem->setEnabled(visible);
     ui_.revealInFinderMenuItem->setEnabled(visible);
     ui_.removeMenuItem->setEnabled(visible);
+}
+
+void ViewController::sayUnreached() {
+    QStringList sentences;
+    for (const FileManagerRefresh::Unreached& manager : refresh_.unreached()) {
+        sentences << Bundle::localizedString(QStringLiteral("Press %1 in %2 to see the change."),
+                                             QStringLiteral("Main"))
+                         .arg(manager.keys, manager.manager);
+    }
+    quietLine_.say(QuietLine::Refresh, sentences.join(u' '));
 }
 
 void ViewController::touchEvent(RdCustomButton* sender) {

@@ -80,8 +80,11 @@ void Shell::setCompanionsFolder(const QString& folder) {
             environmentEntries.push_back(text);
         }
     }
-    const std::string first = folder.isEmpty() ? "" : folder.toStdString() + ":";
-    environmentEntries.push_back("PATH=" + first + path);
+    std::string ours = "PATH=";
+    if (!folder.isEmpty()) {
+        ours.append(folder.toStdString()).append(1, ':');
+    }
+    environmentEntries.push_back(ours.append(path));
 }
 
 QString Shell::defaultCompanionsFolder() {

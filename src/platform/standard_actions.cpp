@@ -13,8 +13,8 @@ bool isReadOnly(const QWidget* widget) {
     return readOnly.isValid() && readOnly.toBool();
 }
 
-// The text fields name these commands as their slots; a list has "select all" alone, and nothing
-// that it could do with it.
+// The text fields name these commands as their slots; of anything else none is asked, also where
+// it has one of them (a list can select all, but not copy).
 bool canPerform(const QWidget* widget, const QByteArray& command) {
     if (widget == nullptr || widget->metaObject()->indexOfSlot("copy()") < 0) {
         return false;

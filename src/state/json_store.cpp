@@ -14,7 +14,7 @@ namespace {
 
 /// On the thread of the save. Null on success, or else the reason.
 QString saveSnapshot(const QString& file, const QString& backup, const StoreContents& snapshot) {
-    const QString reason = replaceStore(file, snapshot);
+    QString reason = replaceStore(file, snapshot);
     // Only after the file itself, so that one of the two is good whatever happens to the other.
     if (reason.isNull())
         replaceStore(backup, snapshot);
@@ -32,6 +32,8 @@ std::unique_ptr<Store> Store::open(const QString& file) {
 }
 
 JsonStore::JsonStore(const QString& file) : file_(file), backup_(file + QStringLiteral(".bak")) {
+    connect(this, &JsonStore::changed, this, &JsonStore::saveChanges, Qt::QueuedConnection);
+    connect(this, &JsonStore::saveEnded, this, &JsonStore::takeResult, Qt::QueuedConnection);
     load();
 }
 
@@ -105,8 +107,12 @@ void JsonStore::load() {
 
 /// False, with the problem told, when the file must be set aside and cannot be.
 bool JsonStore::keepOldFile() {
-    if (noticeOnceAside_.isEmpty() || readStore(file_).state == StoreReading::State::Missing)
+    if (noticeOnceAside_.isEmpty())
         return true;
+    if (readStore(file_).state == StoreReading::State::Missing) {
+        noticeOnceAside_.clear();
+        return true;
+    }
     const std::optional<QString> aside = setAside(file_);
     if (!aside) {
         tell(saveProblem_,
@@ -120,31 +126,34 @@ bool JsonStore::keepOldFile() {
 }
 
 void JsonStore::scheduleSave() {
-    if (std::exchange(scheduled_, true))
-        return;
-    const auto save = [this] {
-        scheduled_ = false;
-        // What a save in progress does not take along goes into the next one.
-        if (unsaved_ && !save_.valid())
-            startSave();
-    };
-    QMetaObject::invokeMethod(this, save, Qt::QueuedConnection);
+    if (!std::exchange(scheduled_, true))
+        emit changed();
+}
+
+void JsonStore::saveChanges() {
+    scheduled_ = false;
+    // What a save in progress does not take along goes into the next one.
+    if (unsaved_ && !save_.valid())
+        startSave();
 }
 
 void JsonStore::startSave() {
     if (!keepOldFile())
         return;
     unsaved_ = false;
-    const auto finish = [this, number = ++saveNumber_] {
-        if (save_.valid() && number == saveNumber_)
-            finishSave();
-    };
-    const auto save = [this, finish, file = file_, backup = backup_, snapshot = contents_] {
-        const QString reason = saveSnapshot(file, backup, snapshot);
-        QMetaObject::invokeMethod(this, finish, Qt::QueuedConnection);
+    const auto save = [this, number = ++saveNumber_, file = file_, backup = backup_,
+                       snapshot = contents_] {
+        QString reason = saveSnapshot(file, backup, snapshot);
+        emit saveEnded(number);
         return reason;
     };
     save_ = std::async(std::launch::async, save);
+}
+
+void JsonStore::takeResult(int number) {
+    // synchronize() may have been quicker.
+    if (save_.valid() && number == saveNumber_)
+        finishSave();
 }
 
 void JsonStore::finishSave() {

@@ -1,4 +1,4 @@
-"""What start, quit and the switch do through the shell: which items, which commands, their order."""
+"""What start, quit and the switch do through the shell: to which items, and in which order."""
 import os
 import subprocess
 

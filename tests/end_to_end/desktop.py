@@ -1,6 +1,7 @@
 """A private desktop for one test file: a virtual display with a window manager and a session bus,
 and drivers for the real programs on it. Nothing of the user's own session or home is touched."""
-import ctypes, functools, json, os, pathlib, shutil, signal, subprocess, sys, tempfile, time, unittest
+import contextlib, ctypes, functools, json, os, pathlib, shutil, signal, subprocess, sys, tempfile
+import time, unittest
 
 PROGRAM = pathlib.Path()  # the velmora under test, companions in ../libexec/velmora beside it
 ROOM = pathlib.Path()     # every file of this run, removed at its end
@@ -329,27 +330,26 @@ def _end_all():
         time.sleep(0.01)
 
 
-def _run_as_nobody():
+def _run_as_nobody(program):
     """Runs the calling file again as an ordinary user, from where that one may read."""
     with tempfile.TemporaryDirectory(dir="/tmp") as copy:
         os.chmod(copy, 0o755)
-        for part in PROGRAM, PROGRAM.parent.parent / "libexec":
-            target = pathlib.Path(copy) / part.relative_to(PROGRAM.parent.parent)
+        for part in program, program.parent.parent / "libexec":
+            target = pathlib.Path(copy) / part.relative_to(program.parent.parent)
             target.parent.mkdir(exist_ok=True)
             (shutil.copytree if part.is_dir() else shutil.copy2)(part, target)
         tests = shutil.copytree(pathlib.Path(sys.argv[0]).parent, f"{copy}/tests")
         user = "--reuid=nobody", "--regid=nogroup", "--clear-groups"
         return subprocess.call(["setpriv", *user, *BOUND[1:], sys.executable, "-B",
                                 f"{tests}/{pathlib.Path(sys.argv[0]).name}",
-                                f"{copy}/bin/{PROGRAM.name}", *sys.argv[1:]], cwd="/")
+                                f"{copy}/bin/{program.name}", *sys.argv[1:]], cwd="/")
 
 
-def main(ordinary_user=False):
-    """Runs the tests of the calling file: FILE PROGRAM [unittest arguments]"""
+@contextlib.contextmanager
+def session(program):
+    """The private desktop, for the program that is to be driven on it."""
     global PROGRAM, ROOM, GLib, pyatspi
-    PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
-    if ordinary_user and os.geteuid() == 0:  # whom no permission is refused
-        sys.exit(_run_as_nobody())
+    PROGRAM = pathlib.Path(program).resolve()
     ctypes.CDLL(None).prctl(36, 1)  # orphans of what we start become our children
     ROOM = pathlib.Path(tempfile.mkdtemp(prefix="velmora-end-to-end-", dir="/tmp"))
     try:
@@ -374,8 +374,17 @@ def main(ordinary_user=False):
         wait(lambda: b"window id" in subprocess.run(
             ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True).stdout,
              "a window manager runs")
-        tests = unittest.main(module="__main__", exit=False, verbosity=2, warnings="ignore")
+        yield
     finally:
         _end_all()
         shutil.rmtree(ROOM, ignore_errors=True)
+
+
+def main(ordinary_user=False):
+    """Runs the tests of the calling file: FILE PROGRAM [unittest arguments]"""
+    program = pathlib.Path(sys.argv.pop(1)).resolve()
+    if ordinary_user and os.geteuid() == 0:  # whom no permission is refused
+        sys.exit(_run_as_nobody(program))
+    with session(program):
+        tests = unittest.main(module="__main__", exit=False, verbosity=2, warnings="ignore")
     sys.exit(not tests.result.wasSuccessful())

@@ -9,7 +9,8 @@ BOXES = {"Make visible all the listed items at launch": "Makevisibleallthelisted
          "Make invisible all the listed items on quit": "Makeinvisibleallthelisteditemsonquit",
          "Make visible and open hidden items on double click":
              "Makevisibleandopenhiddenitemsondoubleclick",
-         "Use Alternating Colors For the Items List Rows": "UseAlternatingColorsFortheItemsListRows"}
+         "Use Alternating Colors For the Items List Rows":
+             "UseAlternatingColorsFortheItemsListRows"}
 LAUNCH, QUIT, OPEN, COLOURS = BOXES
 BLUE, WHITE, GREY = (1, 92, 220), (255, 255, 255), (245, 245, 245)
 
@@ -23,13 +24,8 @@ class Preferences(Story):
     def ticked(self, velmora):
         return [title for title in BOXES if velmora.checked(title)]
 
-    def tick(self, velmora, *titles):
-        """Presses boxes in the window."""
-        velmora.menu("Velmora", "Preferences…")
-        for title in titles:
-            velmora.press(title, "check box")
-            wait(lambda: BOXES[title] in velmora.store(), f"“{title}” is stored")
-        key("Escape")
+    def close(self, velmora, by="Escape"):
+        key(by)
         self.eventually(lambda: velmora.shown(LAUNCH), [])
 
     def colours(self, velmora):
@@ -37,10 +33,9 @@ class Preferences(Story):
         found = []
         for row in velmora.row_nodes():
             box = row.queryComponent().getExtents(0)
-            place = f"1x1+{box.x + 3}+{box.y + box.height // 2}"
-            found.append(tuple(subprocess.run(["import", "-window", "root", "-crop", place, "-depth",
-                                               "8", "rgb:-"], check=True, capture_output=True)
-                               .stdout))
+            point = f"1x1+{box.x + 3}+{box.y + box.height // 2}"
+            command = ["import", "-window", "root", "-crop", point, "-depth", "8", "rgb:-"]
+            found.append(tuple(subprocess.run(command, check=True, capture_output=True).stdout))
         return found
 
     def test_boxes_are_kept(self):
@@ -52,8 +47,7 @@ class Preferences(Story):
             velmora.press(title, "check box")
             self.eventually(lambda: velmora.store().get(name), True)
             self.assertIn(f" {number} state:1\n", velmora.log())
-        key("alt+F4")
-        self.eventually(lambda: velmora.shown(LAUNCH), [])
+        self.close(velmora, "alt+F4")
         self.quit(velmora)
         self.assertEqual([self.home.hidden(path) for path in self.paths], [True] * 3)
         self.assertEqual(velmora.stored(), [("a", "0"), ("b", "0"), ("c", "0")])
@@ -67,8 +61,7 @@ class Preferences(Story):
         for title, name in BOXES.items():
             velmora.press(title, "check box")
             self.eventually(lambda: velmora.store().get(name), False)
-        key("Escape")
-        self.eventually(lambda: velmora.shown(LAUNCH), [])
+        self.close(velmora)
         self.quit(velmora)
         self.assertEqual([self.home.hidden(path) for path in self.paths], [False] * 3)
 
@@ -88,7 +81,9 @@ class Preferences(Story):
         velmora = self.start()
         click(velmora.row("c"), "click", "1")
         self.eventually(velmora.current, ["c, Visible"])
-        self.tick(velmora, OPEN)
+        velmora.menu("Velmora", "Preferences…")
+        velmora.press(OPEN, "check box")
+        self.close(velmora)
         click(velmora.row("b"), "click", "1")
         uri = Path(self.paths[1]).as_uri()
         self.eventually(self.home.records, [f"xdg-open|{uri}"])

@@ -35,17 +35,18 @@ class Trouble(Story):
 
     def test_odd_content_is_carried_along(self):
         a, b = self.home.make("a", "b")
-        odd = [{"filePath": a, "fileTitle": "other title", "visible": "yes", "more": [1, {"x": None}]},
+        odd = [{"filePath": a, "fileTitle": "title", "visible": "yes", "more": [1, {"x": None}]},
                {"filePath": b, "visible": 2.5}]
         self.home.seed()
         file = self.home.folder / "config/velmora/defaults.json"
         lost = [{"fileTitle": "no path", "visible": "0"}, {"filePath": 7}, "text", 7, [[]]]
         file.write_text(json.dumps({
             "fileListView_List": [lost[0], odd[0], *lost[1:], odd[1]], "password": 12,
-            "requirePassword": [1], "Makeinvisibleallthelisteditemsonquit": "no", "its own": {"k": 1}}))
+            "requirePassword": [1], "Makeinvisibleallthelisteditemsonquit": "no",
+            "its own": {"k": 1}}))
         velmora = self.start()
         # A flag that is no number is read as hidden in the row, and as visible beside it.
-        self.assertEqual(velmora.rows(), ["other title, Hidden", ", Hidden"])
+        self.assertEqual(velmora.rows(), ["title, Hidden", ", Hidden"])
         self.assertTrue(velmora.checked("Visible"))
         velmora.press("Visible", "check box")
         self.eventually(lambda: velmora.store()["fileListView_List"],

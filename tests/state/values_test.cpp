@@ -263,11 +263,11 @@ void ValuesTest::listSortsByTitle() {
 
 void ValuesTest::indexOutsideTheListThrows() {
     ItemList list;
-    QVERIFY_EXCEPTION_THROWN(list.at(0), RangeException);
+    QVERIFY_THROWS_EXCEPTION(RangeException, list.at(0));
     list.append(numbered(1));
-    QVERIFY_EXCEPTION_THROWN(list.at(-1), RangeException);
-    QVERIFY_EXCEPTION_THROWN(list.replace(1, numbered(2)), RangeException);
-    QVERIFY_EXCEPTION_THROWN(list.removeAt(1), RangeException);
+    QVERIFY_THROWS_EXCEPTION(RangeException, list.at(-1));
+    QVERIFY_THROWS_EXCEPTION(RangeException, list.replace(1, numbered(2)));
+    QVERIFY_THROWS_EXCEPTION(RangeException, list.removeAt(1));
     QCOMPARE(list.size(), 1);
 }
 

@@ -1,0 +1,82 @@
+#include "app/launch.h"
+
+#include <QMainWindow>
+#include <QSessionManager>
+#include <QTimer>
+
+#include "app/app_delegate.h"
+#include "app/rd_window_controller.h"
+#include "app/view_controller.h"
+#include "controls/accessible_buttons.h"
+#include "list/accessible_items.h"
+#include "platform/application.h"
+#include "platform/bundle.h"
+#include "platform/log.h"
+#include "platform/shell.h"
+#include "platform/single_instance.h"
+#include "platform/termination_signals.h"
+#include "state/user_defaults.h"
+#include "ui_Main.h"
+
+namespace {
+
+void bringForward(QMainWindow& window, const QByteArray& token) {
+    if (!token.isEmpty()) {
+        qputenv("XDG_ACTIVATION_TOKEN", token);
+    }
+    if (window.isMinimized()) {
+        window.showNormal();
+    }
+    window.raise();
+    window.activateWindow();
+}
+
+void prepare() {
+    QApplication::setApplicationName(QStringLiteral("velmora"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Velmora"));
+    QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
+    QApplication::setDesktopFileName(QStringLiteral("com.velmora.Velmora"));
+    Bundle::loadTranslations();
+    QApplication::setWindowIcon(Bundle::imageNamed(QStringLiteral("velmora")));
+    Shell::setCompanionsFolder(Shell::defaultCompanionsFolder());
+    installAccessibleButtons();
+    installAccessibleItems();
+}
+
+}  // namespace
+
+int launch(Application& application) {
+    prepare();
+    SingleInstance instance(UserDefaults::fileBeside(QStringLiteral("instance.lock")));
+    if (!instance.isFirst()) {
+        if (!instance.activateFirst()) {
+            Log::line(QStringLiteral("Velmora is running already."));
+        }
+        return 0;
+    }
+    UserDefaults defaults(UserDefaults::standardFile());
+    QMainWindow window;
+    Ui::Main outlets;
+    outlets.setupUi(&window);
+    AppDelegate delegate(outlets);
+    RDWindowController windowController(&window);
+    ViewController viewController(&window, delegate);
+    windowController.windowDidLoad();
+    viewController.viewDidLoad();
+    window.show();
+
+    // Ended from outside, the program stores everything but does not run the quit pass.
+    const TerminationSignals terminationSignals;
+    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &application,
+                     &Application::terminate);
+    QObject::connect(
+        &application, &QGuiApplication::commitDataRequest, &defaults,
+        [&defaults] { defaults.synchronize(); }, Qt::DirectConnection);
+    QObject::connect(&instance, &SingleInstance::activationRequested, &window,
+                     [&window](const QByteArray& token) { bringForward(window, token); });
+    // Nobody waits for it before the window is there.
+    QTimer::singleShot(0, &instance, &SingleInstance::listen);
+    const int status = QApplication::exec();
+    defaults.synchronize();
+    return status;
+}
