@@ -1,6 +1,7 @@
 """A private desktop for one test file: a virtual display with a window manager and a session bus,
 and drivers for the real programs on it. Nothing of the user's own session or home is touched."""
-import contextlib, ctypes, functools, json, os, pathlib, shutil, signal, subprocess, sys, tempfile, time, unittest
+import contextlib, ctypes, functools, json, os, pathlib, shutil, signal, subprocess, sys, tempfile
+import time, unittest
 
 PROGRAM = pathlib.Path()  # the velmora under test, companions in ../libexec/velmora beside it
 ROOM = pathlib.Path()     # every file of this run, removed at its end
