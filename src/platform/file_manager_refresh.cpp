@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr int repeats = 2;
+
 /// The system limits a program's arguments. Of very many items, one for each folder has to do.
 QStringList withinLimits(QStringList paths) {
     constexpr qsizetype limit = 500;
@@ -25,6 +27,7 @@ QStringList joined(const QList<QStringList>& batches) {
     QStringList all;
     for (const auto& batch : batches)
         all += batch;
+    all.removeAll("-c");
     return withinLimits(all);
 }
 
@@ -45,21 +48,21 @@ FileManagerRefresh::FileManagerRefresh(QString program, QObject* parent)
 
 FileManagerRefresh::~FileManagerRefresh() {
     process_.disconnect(this);
-    if (!changed_.isEmpty()) {
-        waiting_.append(changed_);
-        repeats_.append(changed_);
-    }
+    QList<QStringList> later{changed_};
+    for (const auto& repeat : repeats_)
+        later.append(repeat.paths);
+    waiting_.append(changed_);
     if (process_.state() != QProcess::NotRunning) {
         waiting_.append(process_.arguments());
         process_.kill();
         process_.waitForFinished();
     }
-    if (!waiting_.isEmpty())
-        QProcess::startDetached(program_, joined(waiting_));
-    if (!repeats_.isEmpty()) {
-        const auto seconds = std::chrono::ceil<std::chrono::seconds>(repeatAfter_).count();
+    if (const auto paths = joined(waiting_); !paths.isEmpty())
+        QProcess::startDetached(program_, paths);
+    if (const auto paths = joined(later); !paths.isEmpty()) {
+        const auto wait = std::chrono::ceil<std::chrono::seconds>(repeatAfter_ * repeats);
         QProcess::startDetached(program_,
-                                QStringList{"-w", QString::number(seconds)} + joined(repeats_));
+                                QStringList{"-c", "-w", QString::number(wait.count())} + paths);
     }
 }
 
@@ -70,14 +73,21 @@ void FileManagerRefresh::itemChanged(const QString& path) {
 
 void FileManagerRefresh::tellNew() {
     const auto paths = withinLimits(std::exchange(changed_, {}));
-    repeats_.append(paths);
-    QTimer::singleShot(repeatAfter_, this, &FileManagerRefresh::tellAgain);
+    repeatLater({paths, repeats});
     waiting_.append(paths);
     startNext();
 }
 
+void FileManagerRefresh::repeatLater(const Repeat& repeat) {
+    repeats_.append(repeat);
+    QTimer::singleShot(repeatAfter_, this, &FileManagerRefresh::tellAgain);
+}
+
 void FileManagerRefresh::tellAgain() {
-    waiting_.append(repeats_.takeFirst());
+    const auto [paths, times] = repeats_.takeFirst();
+    if (times > 1)
+        repeatLater({paths, times - 1});
+    waiting_.append(QStringList("-c") + paths);
     startNext();
 }
 

@@ -13,7 +13,7 @@
 ///
 /// The work is done by a small program beside the companions, so that neither a slow file manager
 /// nor anything that goes wrong with one is felt here. File managers remember for some seconds
-/// what is hidden in a folder, so they are told at once and once more when that has run out.
+/// what is hidden in a folder, so they are told at once and twice more until that has run out.
 class FileManagerRefresh final : public QObject {
     Q_OBJECT
 
@@ -37,7 +37,7 @@ public:
     /// What the last telling found; empty before the first.
     const QList<Unreached>& unreached() const { return unreached_; }
 
-    /// How long after the first telling the second follows: for tests.
+    /// How long after the first telling the second follows, and the third after that: for tests.
     void setRepeatAfter(std::chrono::milliseconds time) { repeatAfter_ = time; }
 
 signals:
@@ -45,16 +45,22 @@ signals:
     void unreachedChanged();
 
 private:
+    struct Repeat {
+        QStringList paths;
+        int times;
+    };
+
     void tellNew();
+    void repeatLater(const Repeat& repeat);
     void tellAgain();
     void startNext();
     void readAnswer();
 
     QString program_;
-    std::chrono::milliseconds repeatAfter_{14000};
+    std::chrono::milliseconds repeatAfter_{7000};
     QStringList changed_;         // since the last turn of the event loop
     QList<QStringList> waiting_;  // for the running process to end
-    QList<QStringList> repeats_;  // told once, oldest first
+    QList<Repeat> repeats_;       // in the order in which they are due
     QTimer turn_;
     QProcess process_;
     QList<Unreached> unreached_;

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDebug>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -37,7 +38,7 @@ void Log::install() {
 }
 
 void Log::line(const QString& text) {
-    writeLine(text);
+    QMessageLogger().info().noquote() << text;
 }
 
 QString Log::describe(const QVariant& value) {

@@ -18,7 +18,8 @@
 #include "platform/exceptions.h"
 #include "platform/log.h"
 
-extern char** environ;
+// Not every system has this in a header.
+extern char** environ;  // NOLINT(readability-redundant-declaration)
 
 namespace {
 

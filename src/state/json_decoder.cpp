@@ -18,11 +18,7 @@ class StoreBuilder final : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>
 public:
     bool Null() { return put(QVariant::fromValue(nullptr)); }
     bool Bool(bool value) { return put(value); }
-    bool Int(int value) { return Int64(value); }
-    bool Uint(unsigned value) { return Int64(value); }
-    bool Int64(std::int64_t value) { return putInteger(value); }
-    bool Uint64(std::uint64_t value) { return put(QVariant::fromValue<qulonglong>(value)); }
-    bool Double(double value) { return put(value); }
+    bool RawNumber(const char* text, rapidjson::SizeType length, bool copy);
     bool String(const char* text, rapidjson::SizeType length, bool copy);
     bool Key(const char* text, rapidjson::SizeType length, bool copy);
     bool StartObject();
@@ -46,7 +42,6 @@ private:
     bool open(Kind kind);
     Container close();
     bool put(const QVariant& value);
-    bool putInteger(qlonglong value);
     bool inRecord() const { return !open_.empty() && open_.back().kind == Kind::Record; }
     void makeRecordADictionary();
 
@@ -89,12 +84,21 @@ bool StoreBuilder::put(const QVariant& value) {
     return true;
 }
 
-bool StoreBuilder::putInteger(qlonglong value) {
-    if (value == 1 && inRecord() && field_ == Field::Visible) {
+// RapidJSON's own exact conversion of reals is undefined for some long ones.
+bool StoreBuilder::RawNumber(const char* text, rapidjson::SizeType length, bool /*copy*/) {
+    const QByteArrayView view(text, static_cast<qsizetype>(length));
+    bool fits = false;
+    const bool integer = !view.contains('.') && !view.contains('e') && !view.contains('E');
+    if (const qlonglong value = integer ? view.toLongLong(&fits) : 0; fits) {
+        if (value != 1 || !inRecord() || field_ != Field::Visible)
+            return put(QVariant::fromValue(value));
         visible_ = VisibleForm::NumberOne;
         return true;
     }
-    return put(QVariant::fromValue(value));
+    if (const qulonglong value = integer ? view.toULongLong(&fits) : 0; fits)
+        return put(QVariant::fromValue(value));
+    const double value = view.toDouble(&fits);
+    return fits && put(value);
 }
 
 bool StoreBuilder::String(const char* text, rapidjson::SizeType length, bool /*copy*/) {
@@ -206,9 +210,11 @@ void StoreBuilder::makeRecordADictionary() {
 }  // namespace
 
 std::optional<StoreContents> decodeStore(QByteArray json) {
+    // RapidJSON's own check reads past the end when that is in the middle of a character.
+    if (!json.isValidUtf8())
+        return std::nullopt;
     constexpr unsigned flags = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag |
-                               rapidjson::kParseValidateEncodingFlag |
-                               rapidjson::kParseFullPrecisionFlag;
+                               rapidjson::kParseNumbersAsStringsFlag;
     rapidjson::InsituStringStream stream(json.data());
     rapidjson::Reader reader;
     StoreBuilder builder;

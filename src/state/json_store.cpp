@@ -32,12 +32,8 @@ std::unique_ptr<Store> Store::open(const QString& file) {
 }
 
 JsonStore::JsonStore(const QString& file) : file_(file), backup_(file + QStringLiteral(".bak")) {
-    const auto finish = [this](int number) {
-        // synchronize() may have been quicker.
-        if (save_.valid() && number == saveNumber_)
-            finishSave();
-    };
-    connect(this, &JsonStore::saveEnded, this, finish, Qt::QueuedConnection);
+    connect(this, &JsonStore::changed, this, &JsonStore::saveChanges, Qt::QueuedConnection);
+    connect(this, &JsonStore::saveEnded, this, &JsonStore::takeResult, Qt::QueuedConnection);
     load();
 }
 
@@ -111,8 +107,12 @@ void JsonStore::load() {
 
 /// False, with the problem told, when the file must be set aside and cannot be.
 bool JsonStore::keepOldFile() {
-    if (noticeOnceAside_.isEmpty() || readStore(file_).state == StoreReading::State::Missing)
+    if (noticeOnceAside_.isEmpty())
         return true;
+    if (readStore(file_).state == StoreReading::State::Missing) {
+        noticeOnceAside_.clear();
+        return true;
+    }
     const std::optional<QString> aside = setAside(file_);
     if (!aside) {
         tell(saveProblem_,
@@ -126,15 +126,15 @@ bool JsonStore::keepOldFile() {
 }
 
 void JsonStore::scheduleSave() {
-    if (std::exchange(scheduled_, true))
-        return;
-    const auto save = [this] {
-        scheduled_ = false;
-        // What a save in progress does not take along goes into the next one.
-        if (unsaved_ && !save_.valid())
-            startSave();
-    };
-    QMetaObject::invokeMethod(this, save, Qt::QueuedConnection);
+    if (!std::exchange(scheduled_, true))
+        emit changed();
+}
+
+void JsonStore::saveChanges() {
+    scheduled_ = false;
+    // What a save in progress does not take along goes into the next one.
+    if (unsaved_ && !save_.valid())
+        startSave();
 }
 
 void JsonStore::startSave() {
@@ -148,6 +148,12 @@ void JsonStore::startSave() {
         return reason;
     };
     save_ = std::async(std::launch::async, save);
+}
+
+void JsonStore::takeResult(int number) {
+    // synchronize() may have been quicker.
+    if (save_.valid() && number == saveNumber_)
+        finishSave();
 }
 
 void JsonStore::finishSave() {

@@ -21,6 +21,8 @@ public:
     QString problem() const override;
 
 signals:
+    /// There is something to save in the next turn of the event loop.
+    void changed();
     /// Sent from the thread of the save.
     void saveEnded(int number);
 
@@ -28,7 +30,9 @@ private:
     void load();
     bool keepOldFile();
     void scheduleSave();
+    void saveChanges();
     void startSave();
+    void takeResult(int number);
     void finishSave();
     void tell(QString& place, const QString& text);
 
@@ -36,11 +40,12 @@ private:
     const QString backup_;
     StoreContents contents_;
 
-    bool unsaved_ =
-        false;  // changes that no save has taken up, or that the last one failed to keep
+    // Changes that no save has taken up, or that the last one failed to keep.
+    bool unsaved_ = false;
     bool scheduled_ = false;
     int saveNumber_ = 0;
-    std::future<QString> save_;  // the one in progress; gives the reason when it failed
+    // The save in progress; gives the reason when it failed.
+    std::future<QString> save_;
 
     // When not empty, the file holds something that no save may replace before it was set aside;
     // the text then tells so, with a place for the new name.

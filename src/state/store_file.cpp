@@ -110,12 +110,12 @@ std::optional<QString> setAside(const QString& file) {
     constexpr int mostAttempts = 100;
     for (int i = 1; i <= mostAttempts; ++i) {
         const QString aside = i == 1 ? dated : dated + u'-' + QString::number(i);
-        // As a second link the content is safe under the new name before it loses the old one.
+        // As a second link or a copy the content is there under both names, should the program
+        // end here. Neither that nor the rename, for a file of somebody else, replaces anything.
         if (::link(QFile::encodeName(target).constData(), QFile::encodeName(aside).constData()) ==
             0)
             return aside;
-        // Where there are no such links, or none to this file; does not replace either.
-        if (errno != EEXIST && QFile::rename(target, aside))
+        if (errno != EEXIST && (QFile::copy(target, aside) || QFile::rename(target, aside)))
             return aside;
     }
     return std::nullopt;

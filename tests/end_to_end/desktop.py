@@ -1,6 +1,7 @@
 """A private desktop for one test file: a virtual display with a window manager and a session bus,
 and drivers for the real programs on it. Nothing of the user's own session or home is touched."""
-import ctypes, json, os, pathlib, shutil, signal, subprocess, sys, tempfile, time, unittest
+import contextlib, ctypes, functools, json, os, pathlib, shutil, signal, subprocess, sys, tempfile
+import time, unittest
 
 PROGRAM = pathlib.Path()  # the velmora under test, companions in ../libexec/velmora beside it
 ROOM = pathlib.Path()     # every file of this run, removed at its end
@@ -23,8 +24,8 @@ def wait(question, what, timeout=20):
         time.sleep(0.02)
 
 
-def xdotool(*words):
-    return subprocess.run(["xdotool", *map(str, words)], check=True, capture_output=True,
+def xdotool(*words, check=True):
+    return subprocess.run(["xdotool", *map(str, words)], check=check, capture_output=True,
                           text=True, timeout=60).stdout
 
 
@@ -61,14 +62,21 @@ def drag(nodes, target):
 
 def has(node, *states):
     found = node.getState()
-    return all(found.contains(state) for state in states)
+    return all(found.contains(getattr(pyatspi, f"STATE_{state}")) for state in states)
 
 
 def walk(node):
+    """A control with all that shows in it."""
     yield node
     for child in node:
-        if child is not None:
+        if child is not None and has(child, "SHOWING"):
             yield from walk(child)
+
+
+def act(node, name):
+    """What assistive technology does in place of a press."""
+    action = node.queryAction()
+    action.doAction([action.getName(index) for index in range(action.nActions)].index(name))
 
 
 class Home:
@@ -93,14 +101,32 @@ class Home:
             path.mkdir() if name.endswith("/") else path.write_bytes(b"x" * 8192)
         return [str(path) for path in made]
 
-    def recorder(self, *commands, folder=None, says=""):
-        """Puts a command in place that does nothing but note how it was called."""
+    def seed(self, *paths, visible="1", **keys):
+        """Stores a list of these paths, and other keys."""
+        file = self.folder / "config/velmora/defaults.json"
+        file.parent.mkdir(mode=0o700, exist_ok=True)
+        file.write_text(json.dumps({"fileListView_List": [
+            {"filePath": path, "fileTitle": os.path.basename(path), "visible": visible}
+            for path in paths], **keys}))
+
+    def recorder(self, *commands, folder=None, then="true"):
+        """Puts commands in place that note how they were called before they do `then`."""
         for command in commands:
             script = (folder or self.bin) / command
             script.unlink(missing_ok=True)
             script.write_text("#!/bin/sh\n{ printf '%s' \"${0##*/}\"; printf '|%s' \"$@\"; echo; }"
-                              f" >>'{self.recorded}'\nprintf '{says}'\n")
+                              f" >>'{self.recorded}'\n{then}\n")
             script.chmod(0o755)
+
+    def recording_program(self, *commands, then="true"):
+        """A copy of the program with recording companions."""
+        prefix = pathlib.Path(tempfile.mkdtemp(dir=self.folder))
+        for part in "bin/velmora", "libexec/velmora":
+            whole = PROGRAM.parent.parent / part
+            (prefix / part).parent.mkdir()
+            (shutil.copytree if whole.is_dir() else shutil.copy2)(whole, prefix / part)
+        self.recorder(*commands, folder=prefix / "libexec/velmora", then=then)
+        return prefix / "bin/velmora"
 
     def records(self):
         return self.recorded.read_text().splitlines() if self.recorded.exists() else []
@@ -135,10 +161,9 @@ class Application:
 
     def shown(self, name, *roles):
         """The showing controls of this name, those of the front window first."""
-        windows = sorted(self.tree, key=lambda window: not has(window, pyatspi.STATE_ACTIVE))
+        windows = sorted(self.tree, key=lambda window: not has(window, "ACTIVE"))
         return [node for window in windows for node in walk(window)
-                if node.name == name and (not roles or node.getRoleName() in roles)
-                and has(node, pyatspi.STATE_SHOWING)]
+                if node.name == name and (not roles or node.getRoleName() in roles)]
 
     def find(self, name, *roles):
         return wait(lambda: self.shown(name, *roles), f"“{name}” shows")[0]
@@ -146,8 +171,13 @@ class Application:
     def press(self, name, *roles):
         click(self.find(name, *roles))
 
+    def window(self):
+        """The identifiers of its windows on the screen."""
+        return xdotool("search", "--onlyvisible", "--pid", self.process.pid,
+                       check=False).split()
+
     def place(self, x, y, width, height):
-        window = xdotool("search", "--sync", "--onlyvisible", "--pid", self.process.pid).split()[0]
+        window = wait(self.window, "the window is on the screen")[0]
         xdotool("windowsize", window, width, height, "windowmove", window, x, y)
         wait(lambda: abs(self.tree[0].queryComponent().getExtents(0).x - x) < 20,
              f"the window is at {x}")
@@ -173,6 +203,7 @@ class Velmora(Application):
     def __init__(self, home, program=None):
         super().__init__(home, str(program or PROGRAM))
         self.items = self.find("Items")
+        wait(lambda: has(self.tree[0], "ACTIVE"), "its window has the focus")
 
     @staticmethod
     def store_of(home):
@@ -198,35 +229,35 @@ class Velmora(Application):
                     f"the row of {title}")[0]
 
     def current(self):
-        return [row.name for row in self.row_nodes() if has(row, pyatspi.STATE_SELECTED)]
+        return [row.name for row in self.row_nodes() if has(row, "SELECTED")]
 
     def pane(self):
         """The information pane: its captions with their values."""
-        texts = [node.name for node in walk(self.tree[0]) if node.getRoleName() == "label"
-                 and has(node, pyatspi.STATE_SHOWING)]
+        texts = [node.name for node in walk(self.tree[0]) if node.getRoleName() == "label"]
         return {text: texts[index + 1] for index, text in enumerate(texts) if text.endswith(":")}
 
     def checked(self, name):
-        return has(self.find(name, "check box"), pyatspi.STATE_CHECKED)
+        return has(self.find(name, "check box"), "CHECKED")
 
-    def open_menu(self, title):
-        menu = self.find(title, "menu item", "menu")
+    def says(self, text):
+        """Waits for a text that holds this one."""
+        wait(lambda: any(text in node.name for window in self.tree for node in walk(window)),
+             f"“{text}” is told")
+
+    def menu(self, title, choose=None):
+        """Opens a menu and chooses a command, or else returns the titles with whether they can be
+        chosen, those with a check mark under "checked"."""
+        menu = self.find(title, "menu item")
         click(menu)
-        wait(lambda: any(has(item, pyatspi.STATE_SHOWING) for item in walk(menu)
-                         if item != menu), f"the menu {title} opens")
-        return menu
-
-    def menu(self, title):
-        """What a menu offers: titles with whether they can be chosen, and with their check mark."""
-        offered = {item.name: (has(item, pyatspi.STATE_ENABLED), has(item, pyatspi.STATE_CHECKED))
-                   for item in walk(self.open_menu(title))
-                   if item.name and has(item, pyatspi.STATE_SHOWING)}
+        items = wait(lambda: [item for item in walk(menu) if item.name and item != menu],
+                     f"the menu {title} opens")
+        if choose:
+            click(next(item for item in items if item.name == choose))
+            return None
+        offered = {item.name: has(item, "ENABLED") for item in items}
+        offered["checked"] = [item.name for item in items if has(item, "CHECKED")]
         key("Escape", "Escape")
         return offered
-
-    def command(self, menu, title):
-        self.open_menu(menu)
-        self.press(title, "menu item", "check menu item")
 
 
 class Story(unittest.TestCase):
@@ -234,19 +265,18 @@ class Story(unittest.TestCase):
 
     def __init__(self, name):
         super().__init__(name)
-        test = getattr(self, name)
+        setattr(self, name, functools.partial(self.keeping, name, getattr(self, name)))
 
-        def keeping():
-            try:
-                test()
-            except BaseException:
-                kept = tempfile.mkdtemp(prefix=f"velmora-failure-{name}-", dir="/tmp")
-                subprocess.run(["import", "-window", "root", f"{kept}/screen.png"], check=False)
-                for log in self.home.folder.glob("*.log"):
-                    shutil.copy(log, kept)
-                print(f"\n{name} failed: see {kept}", file=sys.stderr)
-                raise
-        setattr(self, name, keeping)
+    def keeping(self, name, test):
+        try:
+            test()
+        except BaseException:
+            kept = tempfile.mkdtemp(prefix=f"velmora-failure-{name}-", dir="/tmp")
+            subprocess.run(["import", "-window", "root", f"{kept}/screen.png"], check=False)
+            for log in self.home.folder.glob("*.log"):
+                shutil.copy(log, kept)
+            print(f"\n{name} failed: see {kept}", file=sys.stderr)
+            raise
 
     def setUp(self):
         self.home = Home()
@@ -300,10 +330,26 @@ def _end_all():
         time.sleep(0.01)
 
 
-def main():
-    """Runs the tests of the calling file: FILE PROGRAM [unittest arguments]"""
+def _run_as_nobody(program):
+    """Runs the calling file again as an ordinary user, from where that one may read."""
+    with tempfile.TemporaryDirectory(dir="/tmp") as copy:
+        os.chmod(copy, 0o755)
+        for part in program, program.parent.parent / "libexec":
+            target = pathlib.Path(copy) / part.relative_to(program.parent.parent)
+            target.parent.mkdir(exist_ok=True)
+            (shutil.copytree if part.is_dir() else shutil.copy2)(part, target)
+        tests = shutil.copytree(pathlib.Path(sys.argv[0]).parent, f"{copy}/tests")
+        user = "--reuid=nobody", "--regid=nogroup", "--clear-groups"
+        return subprocess.call(["setpriv", *user, *BOUND[1:], sys.executable, "-B",
+                                f"{tests}/{pathlib.Path(sys.argv[0]).name}",
+                                f"{copy}/bin/{program.name}", *sys.argv[1:]], cwd="/")
+
+
+@contextlib.contextmanager
+def session(program):
+    """The private desktop, for the program that is to be driven on it."""
     global PROGRAM, ROOM, GLib, pyatspi
-    PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve()
+    PROGRAM = pathlib.Path(program).resolve()
     ctypes.CDLL(None).prctl(36, 1)  # orphans of what we start become our children
     ROOM = pathlib.Path(tempfile.mkdtemp(prefix="velmora-end-to-end-", dir="/tmp"))
     try:
@@ -328,8 +374,17 @@ def main():
         wait(lambda: b"window id" in subprocess.run(
             ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True).stdout,
              "a window manager runs")
-        tests = unittest.main(module="__main__", exit=False, verbosity=2, warnings="ignore")
+        yield
     finally:
         _end_all()
         shutil.rmtree(ROOM, ignore_errors=True)
+
+
+def main(ordinary_user=False):
+    """Runs the tests of the calling file: FILE PROGRAM [unittest arguments]"""
+    program = pathlib.Path(sys.argv.pop(1)).resolve()
+    if ordinary_user and os.geteuid() == 0:  # whom no permission is refused
+        sys.exit(_run_as_nobody(program))
+    with session(program):
+        tests = unittest.main(module="__main__", exit=False, verbosity=2, warnings="ignore")
     sys.exit(not tests.result.wasSuccessful())

@@ -2,7 +2,7 @@
 import os
 
 import desktop
-from desktop import Story, click, drag, has, middle, wait, xdotool
+from desktop import Story, click, drag, middle, wait, xdotool
 
 
 class MainJob(Story):

@@ -1,5 +1,5 @@
-// Tells the file managers about one item through the program's own class, now and again as the
-// program does, then prints the managers that were not reached. For scripts/file-managers.
+// Tells the file managers about one item through the program's own class, at the times at which
+// the program does, then prints the managers that were not reached. For scripts/file-managers.
 #include <QCoreApplication>
 #include <QTextStream>
 #include <QTimer>

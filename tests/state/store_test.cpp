@@ -88,6 +88,7 @@ private slots:
     void listOfAnotherTypeIsSetAsideBeforeItIsReplaced();
     void damagedFileIsSetAside_data();
     void damagedFileIsSetAside();
+    void unreadableFileIsSetAside();
     void damagedFileThatCannotBeSetAsideIsNotReplaced();
     void failedSaveLeavesTheOldFile_data();
     void failedSaveLeavesTheOldFile();
@@ -105,7 +106,8 @@ private:
         names.removeAll("defaults.json.bak");
         return names;
     }
-    void asOrdinaryUserWithoutWriteAccess(const std::function<void()>& action) const;
+    void asOrdinaryUser(mode_t folderMode, const QStringList& ownFiles,
+                        const std::function<void()>& action) const;
 
     std::unique_ptr<QTemporaryDir> folder_;
     QString file_;
@@ -117,17 +119,18 @@ void StoreTest::init() {
     file_ = folder_->filePath("defaults.json");
 }
 
-void StoreTest::asOrdinaryUserWithoutWriteAccess(const std::function<void()>& action) const {
+void StoreTest::asOrdinaryUser(mode_t folderMode, const QStringList& ownFiles,
+                               const std::function<void()>& action) const {
     constexpr uid_t nobody = 65534;
     const QByteArray path = QFile::encodeName(folder_->path());
     const bool root = ::geteuid() == 0;
     if (root) {
         QVERIFY(::chown(path.constData(), nobody, nobody) == 0);
-        for (const QString& name : {file_, file_ + ".bak"})
-            std::ignore = ::chown(QFile::encodeName(name).constData(), nobody, nobody);
+        for (const QString& file : ownFiles)
+            QVERIFY(::chown(QFile::encodeName(file).constData(), nobody, nobody) == 0);
         QVERIFY(::seteuid(nobody) == 0);
     }
-    QVERIFY(::chmod(path.constData(), S_IRUSR | S_IXUSR) == 0);
+    QVERIFY(::chmod(path.constData(), folderMode) == 0);
     action();
     QVERIFY(::chmod(path.constData(), S_IRWXU) == 0);
     if (root)
@@ -252,7 +255,8 @@ void StoreTest::unchangedContentIsNotWritten() {
 
 void StoreTest::oddContentIsKept() {
     write(file_,
-          " {\"password\": 5, \"later\": [null, {\"a\": 1e2}], \"twice\": 1, \"twice\": 2,"
+          " {\"password\": 5, \"later\": [null, {\"a\": 1e2, \"b\": 18446744073709551615901.0}], "
+          "\"twice\": 1, \"twice\": 2,"
           "\"fileListView_List\": \"no\", \"fileListView_List\": ["
           "{\"filePath\": \"/a\", \"visible\": [], \"visible\": \"1\", \"filePath\": 3},"
           "{\"visible\": \"0\", \"fileTitle\": \"z\", \"filePath\": \"/y\\/z\"}, [{}], 7]}\n");
@@ -263,11 +267,11 @@ void StoreTest::oddContentIsKept() {
         QCOMPARE(defaults.itemList()->at(1).ordinaryForm(), VisibleForm::StringZero);
         defaults.setObject("1", requirePasswordKey);
     }
-    QCOMPARE(
-        read(file_),
-        "{\"fileListView_List\":[{\"filePath\":3,\"visible\":\"1\"},"
-        "{\"filePath\":\"/y/z\",\"fileTitle\":\"z\",\"visible\":\"0\"},[{}],7],"
-        "\"later\":[null,{\"a\":100.0}],\"password\":5,\"requirePassword\":\"1\",\"twice\":2}");
+    QCOMPARE(read(file_),
+             "{\"fileListView_List\":[{\"filePath\":3,\"visible\":\"1\"},"
+             "{\"filePath\":\"/y/z\",\"fileTitle\":\"z\",\"visible\":\"0\"},[{}],7],"
+             "\"later\":[null,{\"a\":100.0,\"b\":1.8446744073709552e22}],\"password\":5,"
+             "\"requirePassword\":\"1\",\"twice\":2}");
 }
 
 void StoreTest::listOfAnotherTypeIsSetAsideBeforeItIsReplaced() {
@@ -303,6 +307,7 @@ void StoreTest::damagedFileIsSetAside_data() {
     QTest::newRow("text") << QByteArray("\"password\"");
     QTest::newRow("number") << QByteArray("1");
     QTest::newRow("no UTF-8") << QByteArray("{\"password\":\"\xfc\"}");
+    QTest::newRow("half a character") << QByteArray("{\"password\":\"\xf4");
     QTest::newRow("encoded surrogate") << QByteArray("{\"password\":\"\xed\xa0\x80\"}");
     QTest::newRow("half an escape") << QByteArray(R"({"password":"\ud800"})");
     QTest::newRow("comma") << QByteArray(R"({"password":"old",})");
@@ -310,7 +315,7 @@ void StoreTest::damagedFileIsSetAside_data() {
     QTest::newRow("deep") << QByteArray("{\"a\":" + QByteArray(1'000'000, '['));
     QTest::newRow("deep and closed")
         << QByteArray("{\"a\":" + QByteArray(300'000, '[') + QByteArray(300'000, ']') + '}');
-    QTest::newRow("beyond all numbers") << QByteArray("{\"a\":1e999}");
+    QTest::newRow("beyond all numbers") << QByteArray("{\"a\":1.7976931348623159e308}");
 }
 
 void StoreTest::damagedFileIsSetAside() {
@@ -343,12 +348,27 @@ void StoreTest::damagedFileIsSetAside() {
     QCOMPARE(otherFiles().filter("defaults.json.bak.2").size(), 1);
 }
 
+void StoreTest::unreadableFileIsSetAside() {
+    write(file_, R"({"password":"old"})");
+    write(file_ + ".bak", R"({"password":"copy"})");
+    QVERIFY(::chmod(QFile::encodeName(file_).constData(), 0) == 0);
+    // For the superuser, the file of somebody else: one that takes no second link.
+    asOrdinaryUser(S_IRWXU, {file_ + ".bak"}, [&] {
+        const UserDefaults defaults(file_);
+        QCOMPARE(defaults.objectForKey(passwordKey), "copy");
+        QVERIFY(defaults.problem().contains(file_ + ".2"));
+    });
+    QCOMPARE(otherFiles().size(), 1);
+    QCOMPARE(modeOf(folder_->filePath(otherFiles().first())), 0U);
+    QCOMPARE(UserDefaults(file_).problem(), QString());
+}
+
 void StoreTest::damagedFileThatCannotBeSetAsideIsNotReplaced() {
     const QByteArray damage = "{\"password\":";
     write(file_, damage);
     write(file_ + ".bak", R"({"password":"copy"})");
     std::unique_ptr<UserDefaults> defaults;
-    asOrdinaryUserWithoutWriteAccess([&] {
+    asOrdinaryUser(S_IRUSR | S_IXUSR, {file_, file_ + ".bak"}, [&] {
         defaults = std::make_unique<UserDefaults>(file_);
         QCOMPARE(defaults->objectForKey(passwordKey), "copy");
         QVERIFY(defaults->problem().contains(file_));
@@ -404,7 +424,7 @@ void StoreTest::failedSaveLeavesTheOldFile() {
         QCOMPARE(defaults.itemList()->size(), 10'000);
     };
     if (obstacle == "read-only folder") {
-        asOrdinaryUserWithoutWriteAccess(fail);
+        asOrdinaryUser(S_IRUSR | S_IXUSR, {file_, file_ + ".bak"}, fail);
     } else if (fullDisk) {
         fail();
     } else {

@@ -11,6 +11,9 @@ constexpr const char* accessibleInterface = "org.a11y.atspi.Accessible";
 constexpr const char* actionInterface = "org.a11y.atspi.Action";
 // Numbers from the interface's own enumerations.
 constexpr unsigned menuBarRole = 34;
+constexpr unsigned scrollBarRole = 48;
+constexpr unsigned splitPaneRole = 53;
+constexpr unsigned toolBarRole = 63;
 constexpr unsigned checkedState = 4;
 
 }  // namespace
@@ -110,10 +113,35 @@ std::vector<Accessible> Accessible::menus() const {
     return {};
 }
 
+std::optional<std::set<std::string>> Accessible::contentNames() const {
+    constexpr size_t tooMany = 600;
+    std::set<std::string> names;
+    std::deque<Accessible> queue{*this};
+    bool sidePanePassed = false;
+    for (size_t seen = 0; !queue.empty(); ++seen) {
+        const auto next = queue.front();
+        queue.pop_front();
+        const auto role = next.role();
+        if (role == menuBarRole || role == toolBarRole || role == scrollBarRole)
+            continue;
+        const auto name = next.name();
+        names.insert(name.substr(0, name.find('\n')));
+        auto below = next.children();
+        if (role == splitPaneRole && !sidePanePassed && below.size() > 1) {
+            below.erase(below.begin());
+            sidePanePassed = true;
+        }
+        if (seen + queue.size() + below.size() > tooMany)
+            return {};
+        queue.insert(queue.end(), below.begin(), below.end());
+    }
+    return names;
+}
+
 bool Accessible::hasKey(std::string_view gtkKey, std::string_view qtKey) const {
     // GTK: the mnemonic, the way through the menus, the key, with semicolons between.
     const auto keys = keyEquivalents();
-    return keys == qtKey || keys.ends_with(";" + std::string(gtkKey));
+    return keys == qtKey || keys.ends_with(std::string(";").append(gtkKey));
 }
 
 std::vector<Accessible> Accessible::commandsWithKey(std::string_view gtkKey,

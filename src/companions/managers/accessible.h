@@ -1,6 +1,7 @@
 #pragma once
 
-#include <functional>
+#include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,9 @@ public:
     /// The commands in the window's menu bar, one level deep, that have this key equivalent as
     /// GTK ("<Primary>h") or Qt ("Ctrl+H") writes it. Keys are the same in every language.
     std::vector<Accessible> commandsWithKey(std::string_view gtkKey, std::string_view qtKey) const;
+    /// The names of what the window shows, without its menus, bars and side pane; none when there
+    /// are too many to ask for each.
+    std::optional<std::set<std::string>> contentNames() const;
     /// Does what a click on it would do. False when it has no action.
     bool activate() const;
 

@@ -1,5 +1,7 @@
 #include "folder.h"
 
+#include <algorithm>
+#include <fstream>
 #include <memory>
 #include <system_error>
 
@@ -12,6 +14,10 @@ struct GlibFree {
     void operator()(char* text) const { g_free(text); }
 };
 using Text = std::unique_ptr<char, GlibFree>;
+
+std::string displayName(const std::filesystem::path& path) {
+    return Text(g_filename_display_basename(path.c_str())).get();
+}
 
 bool isMountPoint(const std::filesystem::path& path) {
     struct stat own {};
@@ -32,14 +38,28 @@ Folder::Folder(std::filesystem::path path) {
         path = ".";
     path = std::filesystem::absolute(path).lexically_normal();
     const Text uri(g_filename_to_uri(path.c_str(), nullptr, nullptr));
-    const Text name(g_filename_display_basename(path.c_str()));
     uri_ = uri ? uri.get() : "";
-    name_ = name.get();
+    name_ = displayName(path);
     hasOtherNames_ = !path.has_relative_path() || isSame(path, g_get_home_dir()) ||
                      isSame(path, g_get_user_special_dir(G_USER_DIRECTORY_DESKTOP)) ||
                      isMountPoint(path);
+    path_ = std::move(path);
+}
+
+void Folder::addItem(const std::filesystem::path& item) {
+    items_.insert(item.filename());
 }
 
 bool Folder::mayBeIn(const std::string& title) const {
     return hasOtherNames_ || title.find(name_) != std::string::npos;
+}
+
+bool Folder::isShownRightBy(const std::set<std::string>& names) const {
+    std::set<std::string> hidden;
+    std::ifstream list(path_ / ".hidden");
+    for (std::string line; std::getline(list, line);)
+        hidden.insert(line);
+    return std::all_of(items_.begin(), items_.end(), [&](const std::string& item) {
+        return names.contains(displayName(item)) != hidden.contains(item);
+    });
 }

@@ -1,20 +1,27 @@
 #pragma once
 
 #include <filesystem>
+#include <set>
 #include <string>
 
-/// A folder as the windows that show it name it.
+/// A folder with items that have changed, as the windows that show it know it.
 class Folder final {
 public:
     explicit Folder(std::filesystem::path path);
+
+    void addItem(const std::filesystem::path& item);
 
     const std::string& uri() const { return uri_; }
     /// Whether a window of that title may show it. File managers put the folder's name there,
     /// except for some folders (home, the root of a disk) that have names of their own.
     bool mayBeIn(const std::string& title) const;
+    /// Whether a window with that content shows the items that are visible and no others.
+    bool isShownRightBy(const std::set<std::string>& names) const;
 
 private:
+    std::filesystem::path path_;
     std::string uri_;
     std::string name_;
     bool hasOtherNames_ = false;
+    std::set<std::string> items_;  // the names alone, as they are on the disk
 };

@@ -1,9 +1,8 @@
 #include "refresh.h"
 
 #include <algorithm>
-#include <functional>
 #include <map>
-#include <optional>
+#include <memory>
 #include <string_view>
 
 #include <fcntl.h>
@@ -20,7 +19,7 @@
 namespace {
 
 using namespace std::chrono_literals;
-using ShowsFolder = std::function<bool(const std::string& title)>;
+using Folders = std::vector<Folder>;
 
 constexpr xcb_keysym_t keyF5 = 0xffc2;
 
@@ -41,14 +40,28 @@ void tellKde(const Bus& session, const Folder& folder) {
                  g_variant_new("(s)", folder.uri().c_str()));
 }
 
-/// Nautilus tells which window shows which folders, and has a command to reload each.
-void refreshNautilus(const Bus& session, const std::vector<Folder>& folders) {
-    constexpr const char* service = "org.gnome.Nautilus";
+bool mayShow(const std::string& title, const Folders& folders) {
+    return std::any_of(folders.begin(), folders.end(),
+                       [&title](const Folder& folder) { return folder.mayBeIn(title); });
+}
+
+/// Whether the window lists the items of all those folders as it should, as far as can be seen.
+bool isRight(const Accessible& window, const Folders& folders) {
+    const auto names = window.contentNames();
+    return names && std::all_of(folders.begin(), folders.end(), [&](const Folder& folder) {
+               return !folder.mayBeIn(window.name()) || folder.isShownRightBy(*names);
+           });
+}
+
+/// Which of Nautilus's windows show one of the folders, as paths on the bus.
+std::vector<std::string> nautilusWindows(const Bus& session, const char* service,
+                                         const Folders& folders) {
+    std::vector<std::string> found;
     const auto windows =
         session.property(service, "/org/freedesktop/FileManager1", "org.freedesktop.FileManager1",
                          "OpenWindowsWithLocations");
     if (!windows || !g_variant_is_of_type(windows.get(), G_VARIANT_TYPE("a{sas}")))
-        return;
+        return found;
     GVariantIter iterator;
     g_variant_iter_init(&iterator, windows.get());
     const char* window = nullptr;
@@ -56,33 +69,53 @@ void refreshNautilus(const Bus& session, const std::vector<Folder>& folders) {
     while (g_variant_iter_loop(&iterator, "{&s@as}", &window, &locations)) {
         gsize count = 0;
         const std::unique_ptr<const char*, GlibRelease> uris(g_variant_get_strv(locations, &count));
-        const bool shown = std::any_of(folders.begin(), folders.end(), [&](const Folder& folder) {
-            return std::find(uris.get(), uris.get() + count, folder.uri()) != uris.get() + count;
-        });
-        if (shown)
-            session.call(service, window, "org.gtk.Actions", "Activate",
-                         g_variant_new_parsed("('reload', @av [], @a{sv} {})"));
+        if (std::any_of(folders.begin(), folders.end(), [&](const Folder& folder) {
+                return std::find(uris.get(), uris.get() + count, folder.uri()) !=
+                       uris.get() + count;
+            }))
+            found.emplace_back(window);
     }
+    return found;
+}
+
+/// Nautilus offers a command to reload for each of its windows.
+void refreshNautilus(const Bus& session, const Bus* accessibility, const Folders& folders,
+                     bool onlyWrong) {
+    constexpr const char* service = "org.gnome.Nautilus";
+    const auto windows = nautilusWindows(session, service, folders);
+    if (windows.empty())
+        return;
+    if (onlyWrong && accessibility != nullptr) {
+        const auto shown = Accessible::windowsOf(*accessibility, service);
+        const auto inOrder = [&folders](const Accessible& window) {
+            return !mayShow(window.name(), folders) || isRight(window, folders);
+        };
+        if (!shown.empty() && std::all_of(shown.begin(), shown.end(), inOrder))
+            return;
+    }
+    for (const auto& window : windows)
+        session.call(service, window, "org.gtk.Actions", "Activate",
+                     g_variant_new_parsed("('reload', @av [], @a{sv} {})"));
 }
 
 /// Chooses Reload from the menu of each window; where the desktop runs without accessibility,
 /// sends the window its key.
 bool refreshByReload(const Bus* accessibility, const char* program, const SentKeys& keys,
-                     const ShowsFolder& shows) {
+                     const Folders& folders, bool onlyWrong) {
     bool reached = false;
     if (accessibility != nullptr) {
         for (const auto& window : Accessible::windowsOf(*accessibility, program)) {
-            const auto commands = shows(window.name()) ? window.commandsWithKey("<Primary>r", "F5")
-                                                       : std::vector<Accessible>();
-            for (const auto& command : commands)
-                command.activate();
             reached = true;
+            if (!mayShow(window.name(), folders) || (onlyWrong && isRight(window, folders)))
+                continue;
+            for (const auto& command : window.commandsWithKey("<Primary>r", "F5"))
+                command.activate();
         }
     }
     if (reached || !keys.isConnected())
         return reached;
     for (const auto& window : keys.windowsOf(program)) {
-        if (shows(window.title) && !keys.send(window, keyF5, false))
+        if (mayShow(window.title, folders) && !keys.send(window, keyF5, false))
             return false;
     }
     return true;
@@ -90,34 +123,38 @@ bool refreshByReload(const Bus* accessibility, const char* program, const SentKe
 
 /// Reload reads the items anew, but only showing and hiding the hidden ones sorts them anew.
 /// Two keys that arrive together leave nothing to be seen in between.
-bool refreshThunar(const Thunar& thunar, const ShowsFolder& shows) {
+bool refreshThunar(const Thunar& thunar, const Folders& folders) {
     if (!thunar.isReachable())
         return false;
     const auto before = thunar.setting();
     bool pressed = false;
     for (const auto& window : thunar.windows()) {
-        if (!shows(window.title))
+        if (!mayShow(window.title, folders))
             continue;
         if (!thunar.toggle(window) || !thunar.toggle(window))
             return false;
         pressed = true;
     }
-    // Each key stores what its window shows; the setting is not ours to change.
-    const bool shown = before.value_or(false);
-    if (pressed && !waitFor(400ms, [&] { return thunar.setting() == shown; }))
+    // Each key stores what its window shows after it; the setting is not ours to change.
+    const auto shown = before.value_or(false);
+    if (pressed && waitFor(300ms, [&] { return thunar.setting() != shown; }) &&
+        !waitFor(300ms, [&] { return thunar.setting() == shown; }))
         thunar.setSetting(shown);
     return true;
 }
 
 }  // namespace
 
-std::vector<Unreached> refreshWindows(const std::vector<std::filesystem::path>& items) {
+std::vector<Unreached> refreshWindows(const std::vector<std::filesystem::path>& items,
+                                      bool onlyWrong) {
     std::map<std::filesystem::path, Folder> known;
-    for (const auto& item : items) {
+    for (const auto& path : items) {
+        const auto item = (path / "").parent_path();  // without a slash at its end
         raiseAttributeEvent(item);
-        known.try_emplace(item.parent_path(), item.parent_path());
+        known.try_emplace(item.parent_path(), item.parent_path())
+            .first->second.addItem(item.filename());
     }
-    std::vector<Folder> folders;
+    Folders folders;
     std::transform(known.begin(), known.end(), std::back_inserter(folders),
                    [](const auto& entry) { return entry.second; });
     const auto session = Bus::session();
@@ -129,21 +166,17 @@ std::vector<Unreached> refreshWindows(const std::vector<std::filesystem::path>& 
     const auto runs = [&names](std::string_view name) {
         return std::find(names.begin(), names.end(), name) != names.end();
     };
-    const ShowsFolder shows = [&folders](const std::string& title) {
-        return std::any_of(folders.begin(), folders.end(),
-                           [&title](const Folder& folder) { return folder.mayBeIn(title); });
-    };
-    if (runs("org.gnome.Nautilus"))
-        refreshNautilus(*session, folders);
-    std::vector<Unreached> missed;
     const auto accessibility = session->accessibility();
     const Bus* const tree = accessibility ? &*accessibility : nullptr;
     const SentKeys keys;
-    if (runs("org.mate.Caja") && !refreshByReload(tree, "caja", keys, shows))
+    std::vector<Unreached> missed;
+    if (runs("org.gnome.Nautilus"))
+        refreshNautilus(*session, tree, folders, onlyWrong);
+    if (runs("org.mate.Caja") && !refreshByReload(tree, "caja", keys, folders, onlyWrong))
         missed.push_back({"Caja", "F5"});
-    if (runs("org.Nemo") && !refreshByReload(tree, "nemo", keys, shows))
+    if (runs("org.Nemo") && !refreshByReload(tree, "nemo", keys, folders, onlyWrong))
         missed.push_back({"Nemo", "F5"});
-    if (runs(Thunar::service) && !refreshThunar(Thunar(*session), shows))
+    if (runs(Thunar::service) && !refreshThunar(Thunar(*session), folders))
         missed.push_back({"Thunar", "Ctrl+H"});
     return missed;
 }

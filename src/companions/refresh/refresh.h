@@ -13,4 +13,6 @@ struct Unreached {
 /// Makes the open windows of the desktop's file managers that show the folders of these items
 /// look again at what is hidden there. Selections, scroll positions and the keyboard focus stay;
 /// of the items nothing changes but the time of their last change of attributes.
-std::vector<Unreached> refreshWindows(const std::vector<std::filesystem::path>& items);
+/// With `onlyWrong`, windows that are seen to list the items as they should are left in peace.
+std::vector<Unreached> refreshWindows(const std::vector<std::filesystem::path>& items,
+                                      bool onlyWrong);

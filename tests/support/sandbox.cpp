@@ -1,0 +1,117 @@
+#include "sandbox.h"
+
+#include <QDropEvent>
+#include <QFile>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
+
+#include "platform/shell.h"
+
+namespace {
+
+QStringList logLines;
+
+void writeScript(const QString& path, const QString& text) {
+    QFile script(path);
+    QVERIFY(script.open(QIODevice::WriteOnly));
+    script.write(text.toUtf8());
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+}  // namespace
+
+Sandbox::Sandbox() {
+    qputenv("XDG_CONFIG_HOME", (folder() + QStringLiteral("/config")).toUtf8());
+    qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext&, const QString& message) { logLines << message; });
+    QDir(folder()).mkpath(QStringLiteral("files"));
+    QDir(folder()).mkpath(QStringLiteral("commands"));
+    for (const char* name : {"chflags", "defaults", "killall"}) {
+        const QString script = QStringLiteral(
+            "#!/bin/sh\n(printf %2; printf '|%s' \"$@\"; echo) >>'%1/record'\n"
+            "test \"$1\" != read || cat '%1/show-all' 2>/dev/null\n");
+        writeScript(folder() + QStringLiteral("/commands/") + QLatin1String(name),
+                    script.arg(folder(), QLatin1String(name)));
+    }
+    Shell::setCompanionsFolder(folder() + QStringLiteral("/commands"));
+    defaults_ = std::make_unique<UserDefaults>(UserDefaults::standardFile());
+    Q_ASSERT(UserDefaults::standardFile().startsWith(folder()));
+    log();
+}
+
+Sandbox::~Sandbox() {
+    qInstallMessageHandler(nullptr);
+}
+
+QString Sandbox::makeFile(const QString& name) const {
+    QFile file(folder() + QStringLiteral("/files/") + name);
+    return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
+}
+
+QStringList Sandbox::makeFiles(const QStringList& names) const {
+    QStringList paths;
+    for (const QString& name : names) {
+        paths << makeFile(name);
+    }
+    return paths;
+}
+
+QStringList Sandbox::commands() const {
+    QFile record(folder() + QStringLiteral("/record"));
+    if (!record.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    QStringList lines = QString::fromUtf8(record.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    lines.replaceInStrings(folder() + QStringLiteral("/files/"), QString());
+    record.remove();
+    return lines;
+}
+
+void Sandbox::setShowAllOutput(const QString& text) const {
+    QFile output(folder() + QStringLiteral("/show-all"));
+    QVERIFY(output.open(QIODevice::WriteOnly));
+    output.write(text.toUtf8());
+}
+
+QStringList Sandbox::log() {
+    return std::exchange(logLines, {});
+}
+
+void Sandbox::storeList(const QStringList& paths, VisibleForm form) {
+    ItemList list;
+    for (const QString& path : paths) {
+        list.append(ItemRecord::forPath(path, form));
+    }
+    defaults_->setItemList(list);
+}
+
+QString Sandbox::stored() const {
+    const auto list = defaults_->itemList();
+    return list ? describe(*list) : QStringLiteral("absent");
+}
+
+QString Sandbox::describe(const ItemList& list) {
+    QStringList parts;
+    list.forEach([&](const ItemRecord& record) {
+        const QVariant visible = record.visible();
+        const bool text = visible.typeId() == QMetaType::QString;
+        parts << record.fileTitle() + u':' +
+                     (text ? u'"' + visible.toString() + u'"' : visible.toString());
+    });
+    return parts.join(u' ');
+}
+
+void drop(DragDropView& view, const QStringList& paths) {
+    QMimeData data;
+    QList<QUrl> urls;
+    for (const QString& path : paths) {
+        urls << QUrl::fromLocalFile(path);
+    }
+    data.setUrls(urls);
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(QPoint(20, 60), offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view, &enter);
+    QDropEvent event(QPointF(20, 60), offered, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view, &event);
+}

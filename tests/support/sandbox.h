@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QDir>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include "list/drag_drop_view.h"
+#include "platform/workspace.h"
+#include "state/user_defaults.h"
+
+class QMimeData;
+
+/// A world of its own for one test: settings, files, recorded command lines, log lines and what
+/// was opened. Nothing outside its temporary folder is touched.
+class Sandbox {
+public:
+    Sandbox();
+    ~Sandbox();
+
+    QString folder() const { return folder_.path(); }
+    /// Makes an empty file, with its path.
+    QString makeFile(const QString& name) const;
+    QStringList makeFiles(const QStringList& names) const;
+    /// The commands that the shell was given since the last call, "chflags|hidden|/a b" each.
+    QStringList commands() const;
+    /// What `defaults read` prints from now on.
+    void setShowAllOutput(const QString& text) const;
+    /// Log lines since the last call.
+    static QStringList log();
+
+    UserDefaults& defaults() { return *defaults_; }
+    void storeList(const QStringList& paths, VisibleForm form = VisibleForm::StringOne);
+    /// The stored list as "title:form" ("a.txt:\"1\"", "b.txt:1"), for comparing.
+    QString stored() const;
+    static QString describe(const ItemList& list);
+
+private:
+    QTemporaryDir folder_;
+    std::unique_ptr<UserDefaults> defaults_;
+};
+
+/// Writes down what would be opened or revealed.
+class RecordingWorkspace final : public Workspace {
+public:
+    void openFile(const QString& path) override { opened << path; }
+    void selectFile(const QString& path) override { revealed << path; }
+    void openUrl(const QString& address) override { opened << address; }
+
+    QStringList opened;
+    QStringList revealed;
+};
+
+/// Writes down the selection reports: a title, or "nil".
+class RecordingDelegate final : public DragDropViewDelegate {
+public:
+    void selectedTableLists(const ItemRecord* record) override {
+        reports << (record != nullptr ? record->fileTitle() : QStringLiteral("nil"));
+    }
+    QStringList take() { return std::exchange(reports, {}); }
+
+    QStringList reports;
+};
+
+/// A drop of these paths, through the view's real event handler.
+void drop(DragDropView& view, const QStringList& paths);
