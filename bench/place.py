@@ -53,7 +53,7 @@ class Place(contextlib.ExitStack):
         """Paths of that many files, made where they are missing, so many in one folder."""
         paths = []
         for number in range(count):
-            folder = self.home / f"Items {folder_size}" / f"Part {number // folder_size:03}"
+            folder = self.home / f"items-of-{folder_size}" / f"part-{number // folder_size:03}"
             if number % folder_size == 0:
                 folder.mkdir(parents=True, exist_ok=True)
             # In no order that a sort could make use of.
