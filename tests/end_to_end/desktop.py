@@ -146,7 +146,7 @@ class Application:
         self.log_file = home.folder / f"{pathlib.Path(command[0]).name}.log"
         with open(self.log_file, "ab") as log:
             self.process = subprocess.Popen([*BOUND, *command], env=home.environment, stderr=log,
-                                            stdin=subprocess.DEVNULL, stdout=log)
+                                            cwd=home.files, stdin=subprocess.DEVNULL, stdout=log)
         self.tree = wait(self._tree, f"{command[0]} is on the desktop")
 
     def _tree(self):
