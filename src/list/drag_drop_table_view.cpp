@@ -3,6 +3,7 @@
 #include <QAbstractListModel>
 #include <QContextMenuEvent>
 #include <QDragEnterEvent>
+#include <QElapsedTimer>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -49,6 +50,8 @@ namespace {
 
 // Cells out of view are dropped once there are more than a few screens of them.
 constexpr size_t mostCells = 256;
+// Icons are found for as long as nobody notices, then events have their turn.
+constexpr int iconTurn = 4;  // milliseconds
 
 class CellDelegate final : public QStyledItemDelegate {
 public:
@@ -57,7 +60,11 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         painter->save();
-        table_->cellForRow(index.row())->drawRect(*painter, option.rect);
+        const auto cell = table_->cellForRow(index.row());
+        cell->drawRect(*painter, option.rect);
+        if (!cell->iconIsFresh) {
+            table_->wantIcon(index.row());
+        }
         if (table_->hasFocus() && index.row() == table_->currentRow()) {
             painter->setPen(QPen(QColor(255, 255, 255, 200), 1));
             painter->drawRect(option.rect.adjusted(2, 2, -3, -3));
@@ -97,6 +104,8 @@ DragDropTableView::DragDropTableView(QWidget* parent)
             emit selectionDidChange();
         }
     });
+    iconTimer_.setSingleShot(true);
+    connect(&iconTimer_, &QTimer::timeout, this, &DragDropTableView::loadIcons);
     makeHoverButtons();
 }
 
@@ -152,6 +161,7 @@ void DragDropTableView::reloadData() {
         rows_->setCount(count);
     }
     cells_.clear();
+    rowsWithoutIcon_.clear();
     setHoveredRow(-1);
     viewport()->update();
     updateAccessibleItems(this);
@@ -190,6 +200,37 @@ std::shared_ptr<ListCell> DragDropTableView::cellForRow(int row) const {
         cell = source_ != nullptr ? source_->viewForRow(row) : std::make_shared<ListCell>();
     }
     return cell;
+}
+
+void DragDropTableView::wantIcon(int row) {
+    if (!rowsWithoutIcon_.contains(row)) {
+        rowsWithoutIcon_.append(row);
+        iconTimer_.start(0);
+    }
+}
+
+void DragDropTableView::loadIcons() {
+    QElapsedTimer turn;
+    turn.start();
+    while (!rowsWithoutIcon_.isEmpty() && !turn.hasExpired(iconTurn)) {
+        const int row = rowsWithoutIcon_.takeFirst();
+        const auto known = cells_.find(row);
+        const QRect place = visualRect(rows_->index(row));
+        // A row that has gone out of view asks again when it comes back.
+        if (known == cells_.end() || !place.intersects(viewport()->rect())) {
+            continue;
+        }
+        ListCell& cell = *known->second;
+        cell.iconIsFresh = true;
+        const QIcon icon = source_ != nullptr ? source_->iconOfRow(row) : QIcon();
+        if (!icon.isNull() && icon.cacheKey() != cell.listIcon.cacheKey()) {
+            cell.setCellIcon(icon);
+            viewport()->update(place);
+        }
+    }
+    if (!rowsWithoutIcon_.isEmpty()) {
+        iconTimer_.start(0);
+    }
 }
 
 int DragDropTableView::rowAt(const QPoint& position) const {

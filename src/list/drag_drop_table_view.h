@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include <QListView>
+#include <QTimer>
 
 #include "list/list_cell.h"
 #include "state/item_list.h"
@@ -18,8 +19,11 @@ class TableDataSource {
 public:
     virtual ~TableDataSource() = default;
     virtual int numberOfRowsInTableView() const = 0;
-    /// A fresh cell for `row`; an unconfigured one for a row beyond the list.
+    /// A fresh cell for `row`; an unconfigured one for a row beyond the list. Comes at once: with
+    /// the icon that was last known, or a placeholder.
     virtual std::shared_ptr<ListCell> viewForRow(int row) const = 0;
+    /// The row's icon, which may take a while to find; null for a row beyond the list.
+    virtual QIcon iconOfRow(int row) const = 0;
     virtual int heightOfRow(int row) const = 0;
     /// The row's title, by which typing finds it; empty for a row beyond the list.
     virtual QString titleOfRow(int row) const = 0;
@@ -71,6 +75,8 @@ public:
     /// the list's current row was another.
     void selectRow(int row);
 
+    /// Has the row's icon found once the window has nothing better to do, and the row painted anew.
+    void wantIcon(int row);
     /// The cell of a row in view, made when it is first asked for.
     std::shared_ptr<ListCell> cellForRow(int row) const;
     QToolButton* checkButton() const { return checkButton_; }
@@ -106,10 +112,13 @@ private:
     void makeHoverButtons();
     void setHoveredRow(int row);
     void placeHoverButtons();
+    void loadIcons();
 
     TableDataSource* source_ = nullptr;
     TableRowsModel* rows_;
     mutable std::unordered_map<int, std::shared_ptr<ListCell>> cells_;
+    QList<int> rowsWithoutIcon_;
+    QTimer iconTimer_;
     QToolButton* checkButton_;
     QToolButton* deletedButton_;
     QList<TableColumn> tableColumns_;

@@ -18,6 +18,7 @@ namespace {
 constexpr QColor currentRowColor{1, 92, 220};
 constexpr QColor evenRowColor{255, 255, 255};
 constexpr QColor oddRowColor{245, 245, 245};
+constexpr int mostIcons = 500;
 
 bool isShown(const ItemRecord& record) {
     return integerReading(record.visible()) == 1;
@@ -32,7 +33,10 @@ void DragDropView::forgetDropped(const QStringList& paths) {
 }
 
 DragDropView::DragDropView(QWidget* parent)
-    : QWidget(parent), topViw_(new TopView(this)), tableView_(new DragDropTableView(this)) {
+    : QWidget(parent),
+      topViw_(new TopView(this)),
+      tableView_(new DragDropTableView(this)),
+      icons_(mostIcons) {
     NotificationCenter::defaultCenter().addObserver(this, &DragDropView::changeCellData,
                                                     notification_names::changeCellData);
     setAcceptDrops(true);
@@ -213,9 +217,22 @@ std::shared_ptr<ListCell> DragDropView::viewForRow(int row) const {
     cell->rowIndex = row;
     cell->filePath = path;
     cell->setSelected(isShown(record));
-    cell->setCellIcon(Workspace::shared().iconForFile(path));
+    // The workspace has to look at the file. What the row showed before stands meanwhile.
+    if (const QIcon* known = icons_.object(path)) {
+        cell->setCellIcon(*known);
+    }
     cell->setCellTitle(record.fileTitle());
     return cell;
+}
+
+QIcon DragDropView::iconOfRow(int row) const {
+    if (row < 0 || row >= count()) {
+        return {};
+    }
+    const QString path = fileLists_->at(row).filePath();
+    const QIcon icon = Workspace::shared().iconForFile(path);
+    icons_.insert(path, new QIcon(icon));
+    return icon;
 }
 
 QString DragDropView::titleOfRow(int row) const {

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include <QCache>
 #include <QHash>
 #include <QWidget>
 
@@ -102,6 +103,7 @@ public:
 
     int numberOfRowsInTableView() const override { return static_cast<int>(count()); }
     std::shared_ptr<ListCell> viewForRow(int row) const override;
+    QIcon iconOfRow(int row) const override;
     int heightOfRow(int /*row*/) const override { return 40; }
     QString titleOfRow(int row) const override;
 
@@ -137,5 +139,6 @@ private:
     int selectRowIndex_ = 0;
     bool canDragDrop_ = false;
     bool loaded_ = false;
+    mutable QCache<QString, QIcon> icons_;  // as last looked up
     Qt::DropActions draggingSourceOperationMask_ = Qt::CopyAction | Qt::LinkAction | Qt::MoveAction;
 };

@@ -1,5 +1,7 @@
 #include "list/list_cell.h"
 
+#include <optional>
+
 #include <QFontMetrics>
 #include <QPainter>
 
@@ -19,6 +21,24 @@ QString mainTableText(const char* key) {
     return Bundle::localizedString(QLatin1String(key), QStringLiteral("Main"));
 }
 
+// The width of the widest text. Row for row the question is the same, and the answer is remembered.
+int widest(const QFontMetrics& metrics, const QStringList& texts) {
+    struct Answer {
+        QFontMetrics metrics;
+        QStringList texts;
+        int width;
+    };
+    static std::optional<Answer> last;
+    if (!last || last->texts != texts || last->metrics != metrics) {
+        int width = 0;
+        for (const QString& text : texts) {
+            width = std::max(width, metrics.horizontalAdvance(text));
+        }
+        last = Answer{metrics, texts, width};
+    }
+    return last->width;
+}
+
 }  // namespace
 
 ListCell::ListCell()
@@ -29,10 +49,8 @@ ListCell::ListCell()
 ListCell::Layout ListCell::layout(const QRect& row, const QFontMetrics& metrics) const {
     // The status text and the buttons share the right edge; the text's 60 units grow with the
     // font and the language, alike for every row, so that it never runs under a button.
-    int textWidth = metrics.horizontalAdvance(statuesTextField);
-    for (const char* key : {visibleKey, hiddenKey}) {
-        textWidth = std::max(textWidth, metrics.horizontalAdvance(mainTableText(key)));
-    }
+    const int textWidth =
+        widest(metrics, {statuesTextField, mainTableText(visibleKey), mainTableText(hiddenKey)});
     const int statusRoom = std::max(statusWidth, textWidth + buttonSide + 2);
     const int titleRight = row.right() + 1 - statusRoom;
     Layout layout;

@@ -57,6 +57,7 @@ public:
 
     QColor backgroundColor;  ///< invalid until set
     QIcon listIcon;
+    bool iconIsFresh = false;  ///< the icon was looked up for this cell
     QString listTextField;
     QString statuesTextField;
     bool checkButtonHidden = true;

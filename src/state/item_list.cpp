@@ -16,11 +16,10 @@ constexpr qsizetype blockSize = 256;
 /// itself, so that few comparisons have to fetch the strings.
 struct SortKey {
     quint64 lead;
-    QStringView title;
-    const ItemRecord* record;
+    const QStringView* title;
 
     bool operator<(const SortKey& other) const {
-        return lead != other.lead ? lead < other.lead : title < other.title;
+        return lead != other.lead ? lead < other.lead : *title < *other.title;
     }
 };
 
@@ -29,26 +28,28 @@ qsizetype commonPrefixLength(QStringView left, QStringView right) {
            left.cbegin();
 }
 
-/// The four characters from there on as one number that sorts like them.
-quint64 leadFrom(qsizetype start, QStringView title) {
-    constexpr qsizetype length = 4;
+/// The characters from there on as one number that sorts like them: eight, or four where they
+/// need more than a byte each.
+quint64 leadFrom(qsizetype start, QStringView title, bool narrow) {
+    const int bits = narrow ? 8 : 16;
     quint64 lead = 0;
-    for (qsizetype i = start; i < start + length; ++i)
-        lead = lead << 16 | (i < title.size() ? title.at(i).unicode() : 0U);
+    for (qsizetype i = start; i < start + 64 / bits; ++i)
+        lead = lead << bits | (i < title.size() ? title.at(i).unicode() : 0U);
     return lead;
 }
 
-std::vector<SortKey> sortKeys(const ItemList& list) {
+std::vector<SortKey> sortKeys(const std::vector<QStringView>& titles) {
+    QStringView prefix = titles.empty() ? QStringView() : titles.front();
+    char16_t allBits = 0;
+    for (const QStringView title : titles) {
+        prefix.truncate(commonPrefixLength(prefix, title));
+        for (const QChar character : title)
+            allBits |= character.unicode();
+    }
     std::vector<SortKey> keys;
-    keys.reserve(static_cast<std::size_t>(list.size()));
-    list.forEach([&keys](const ItemRecord& record) {
-        keys.push_back({0, record.fileTitleView(), &record});
-    });
-    QStringView prefix = keys.empty() ? QStringView() : keys.front().title;
-    for (const SortKey& key : keys)
-        prefix.truncate(commonPrefixLength(prefix, key.title));
-    for (SortKey& key : keys)
-        key.lead = leadFrom(prefix.size(), key.title);
+    keys.reserve(titles.size());
+    for (const QStringView& title : titles)
+        keys.push_back({leadFrom(prefix.size(), title, allBits < 0x100), &title});
     return keys;
 }
 
@@ -125,13 +126,24 @@ void ItemList::removeIf(const std::function<bool(const ItemRecord&)>& predicate)
 }
 
 void ItemList::sortByTitle(bool ascending) {
-    std::vector<SortKey> keys = sortKeys(*this);
-    std::sort(keys.begin(), keys.end(), [ascending](const SortKey& left, const SortKey& right) {
-        return ascending ? left < right : right < left;
-    });
+    std::vector<QStringView> titles;
+    std::vector<const ItemRecord*> records;
+    titles.reserve(static_cast<std::size_t>(size()));
+    records.reserve(static_cast<std::size_t>(size()));
+    for (const Block& block : std::as_const(blocks_)) {
+        for (const ItemRecord& record : block.records) {
+            titles.push_back(record.fileTitleView());
+            records.push_back(&record);
+        }
+    }
+    std::vector<SortKey> keys = sortKeys(titles);
+    if (ascending)
+        std::sort(keys.begin(), keys.end());
+    else
+        std::sort(keys.rbegin(), keys.rend());
     ItemList sorted;
     for (const SortKey& key : keys)
-        sorted.append(*key.record);
+        sorted.append(*records[static_cast<std::size_t>(key.title - titles.data())]);
     *this = std::move(sorted);
 }
 
