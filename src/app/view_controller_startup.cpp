@@ -9,7 +9,7 @@
 #include "hiding/command_lines.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
-#include "platform/file_attributes.h"
+#include "platform/file_finder.h"
 #include "platform/notification_center.h"
 #include "platform/notification_names.h"
 #include "platform/shell.h"
@@ -112,8 +112,9 @@ void ViewController::dropMissingItems() {
         // Without a message; but an item that was hidden on a disk that is not there now must not
         // be forgotten for good.
         ItemList missing;
-        list->removeIf([&missing](const ItemRecord& record) {
-            const bool gone = !fileExists(record.filePath());
+        FileFinder files(list->size());
+        list->removeIf([&](const ItemRecord& record) {
+            const bool gone = !files.exists(record.filePath());
             if (gone) {
                 missing.append(record);
             }
