@@ -24,8 +24,7 @@ namespace {
 
 /// The main window as the program builds it; only the open panel answers by itself.
 struct Window {
-    explicit Window(std::optional<QStringList> chosen = std::nullopt)
-        : answer(std::move(chosen)) {
+    explicit Window(std::optional<QStringList> chosen = std::nullopt) : answer(std::move(chosen)) {
         ui.setupUi(&frame);
         delegate = std::make_unique<AppDelegate>(ui);
         windowController = std::make_unique<RDWindowController>(&frame);
@@ -120,7 +119,8 @@ private slots:
                  QStringList({"chflags|nohidden|b c", "chflags|nohidden|/nowhere/x",
                               "chflags|nohidden|a"}));
         QCOMPARE(sandbox.stored(), QString("a:\"1\" b c:\"1\""));
-        QCOMPARE(DroppedItems(UserDefaults::fileBeside(DroppedItems::fileName)).records().size(), 1);
+        QCOMPARE(DroppedItems(UserDefaults::fileBeside(DroppedItems::fileName)).records().size(),
+                 1);
         QCOMPARE(w.list()->count(), 0);
         QCOMPARE(w.ui.requirePassword->state(), 1);
         QVERIFY(!w.ui.passwordMeunItem->isEnabled());
@@ -150,8 +150,9 @@ private slots:
         for (const QString& table : tables) {
             QTranslator translator;
             QVERIFY(translator.load(":/translations/" + table));
-            for (const auto key : {Preference::MakeVisibleAtLaunch, Preference::MakeInvisibleOnQuit,
-                                   Preference::OpenOnDoubleClick, Preference::AlternatingRowColors}) {
+            for (const auto key :
+                 {Preference::MakeVisibleAtLaunch, Preference::MakeInvisibleOnQuit,
+                  Preference::OpenOnDoubleClick, Preference::AlternatingRowColors}) {
                 const QByteArray name = preferenceName(key).toUtf8();
                 for (const char* context : {"Main", "RDTwoWindowController"}) {
                     QCOMPARE(translator.translate(context, name.constData()), QString());
@@ -169,8 +170,9 @@ private slots:
         w.list()->selectTableViewCellForRowIndex(1);
         sandbox.setShowAllOutput("1\n");
         w.press(w.ui.switchButton);
-        QCOMPARE(sandbox.commands(), QStringList({"defaults|read|com.apple.finder|AppleShowAllFiles",
-                                                  "chflags|hidden|b"}));
+        QCOMPARE(
+            sandbox.commands(),
+            QStringList({"defaults|read|com.apple.finder|AppleShowAllFiles", "chflags|hidden|b"}));
         QCOMPARE(sandbox.stored(), QString("a:\"1\" b:\"0\""));
         QCOMPARE(w.ui.hideMenuItem->text(), QString("Show"));
         QVERIFY(!w.ui.openMenuItem->isEnabled() && !w.ui.revealInFinderMenuItem->isEnabled() &&
@@ -268,10 +270,12 @@ private slots:
             dialog->show();
             auto* field = dialog->findChild<QLineEdit*>("passwordFilde");
             int step = 0;
-            ([&] {
-                field->setText(typed.value(step++));
-                (dialog->*steps)();
-            }(), ...);
+            (
+                [&] {
+                    field->setText(typed.value(step++));
+                    (dialog->*steps)();
+                }(),
+                ...);
             return std::exchange(observer.seen, {});
         };
         using Dialog = RDPasswordViewController;
@@ -288,10 +292,11 @@ private slots:
         QCOMPARE(run(false, {" Abc", " abc"}, &Dialog::save, &Dialog::cancel),
                  QStringList({"changePassword passwordvalue= abc yanzheng=true stored= abc",
                               "yanzhengPassword save=true yanzheng=true stored= abc"}));
-        QCOMPARE(run(true, {" abc"}, &Dialog::reject),
-                 QStringList({"changePassword changePassword=true passwordvalue= abc yanzheng=false "
-                              "stored= abc",
-                              "yanzhengPassword save=false yanzheng=true stored= abc"}));
+        QCOMPARE(
+            run(true, {" abc"}, &Dialog::reject),
+            QStringList({"changePassword changePassword=true passwordvalue= abc yanzheng=false "
+                         "stored= abc",
+                         "yanzhengPassword save=false yanzheng=true stored= abc"}));
         QCOMPARE(run(false, {" abc"}, &Dialog::save),
                  QStringList({"changePassword passwordvalue= abc stored= abc",
                               "yanzhengPassword save=true yanzheng=true stored= abc"}));

@@ -93,6 +93,7 @@ class Home:
             **{f"XDG_{name.upper()}_HOME": str(self.folder / name)
                for name in ("config", "data", "cache", "state")}}
         self.recorded = self.folder / "recorded"
+        self.store = self.folder / "config/velmora/defaults.json"
 
     def make(self, *names):
         """Makes files, and folders where the name ends in a slash."""
@@ -103,9 +104,8 @@ class Home:
 
     def seed(self, *paths, visible="1", **keys):
         """Stores a list of these paths, and other keys."""
-        file = self.folder / "config/velmora/defaults.json"
-        file.parent.mkdir(mode=0o700, exist_ok=True)
-        file.write_text(json.dumps({"fileListView_List": [
+        self.store.parent.mkdir(mode=0o700, exist_ok=True)
+        self.store.write_text(json.dumps({"fileListView_List": [
             {"filePath": path, "fileTitle": os.path.basename(path), "visible": visible}
             for path in paths], **keys}))
 
@@ -146,7 +146,7 @@ class Application:
         self.log_file = home.folder / f"{pathlib.Path(command[0]).name}.log"
         with open(self.log_file, "ab") as log:
             self.process = subprocess.Popen([*BOUND, *command], env=home.environment, stderr=log,
-                                            stdin=subprocess.DEVNULL, stdout=log)
+                                            cwd=home.files, stdin=subprocess.DEVNULL, stdout=log)
         self.tree = wait(self._tree, f"{command[0]} is on the desktop")
 
     def _tree(self):
@@ -173,8 +173,7 @@ class Application:
 
     def window(self):
         """The identifiers of its windows on the screen."""
-        return xdotool("search", "--onlyvisible", "--pid", self.process.pid,
-                       check=False).split()
+        return xdotool("search", "--onlyvisible", "--pid", self.process.pid, check=False).split()
 
     def place(self, x, y, width, height):
         window = wait(self.window, "the window is on the screen")[0]
@@ -182,19 +181,15 @@ class Application:
         wait(lambda: abs(self.tree[0].queryComponent().getExtents(0).x - x) < 20,
              f"the window is at {x}")
 
-    def ended(self, timeout=20):
-        """Waits for the program to end by itself."""
-        wait(lambda: self.process.poll() is not None, "the program ends", timeout)
+    def ended(self):
+        """Waits for the program to end by itself; its exit status."""
+        wait(lambda: self.process.poll() is not None, "the program ends")
         return self.process.returncode
 
     def stop(self):
         if self.process.poll() is None:
             self.process.terminate()
-            try:
-                self.process.wait(20)
-            except subprocess.TimeoutExpired:
-                self.process.kill()
-                raise
+        return self.ended()
 
 
 class Velmora(Application):
@@ -205,13 +200,8 @@ class Velmora(Application):
         self.items = self.find("Items")
         wait(lambda: has(self.tree[0], "ACTIVE"), "its window has the focus")
 
-    @staticmethod
-    def store_of(home):
-        return home.folder / "config/velmora/defaults.json"
-
     def store(self):
-        file = self.store_of(self.home)
-        return json.loads(file.read_text()) if file.exists() else {}
+        return json.loads(self.home.store.read_text()) if self.home.store.exists() else {}
 
     def stored(self):
         """The stored list as pairs of title and visibility."""
@@ -283,7 +273,7 @@ class Story(unittest.TestCase):
 
     def start(self, program=None):
         velmora = Velmora(self.home, program)
-        self.addCleanup(velmora.stop)
+        self.addCleanup(lambda: self.assertEqual(velmora.stop(), 0, velmora.log()))
         return velmora
 
     def browse(self, folder):
@@ -305,29 +295,13 @@ class Story(unittest.TestCase):
         self.assertEqual(velmora.ended(), 0, velmora.log())
 
 
-def _descendants():
-    parents = {}
-    for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):
-        try:
-            parents[int(stat.parent.name)] = int(stat.read_text().rpartition(")")[2].split()[1])
-        except OSError:  # ended meanwhile
-            pass
-    found = {os.getpid()}
-    while more := {pid for pid, parent in parents.items() if parent in found} - found:
-        found |= more
-    return found - {os.getpid()}
-
-
 def _end_all():
-    """Ends all that this process started, also what has left its parent."""
-    while pids := _descendants():
-        for pid in pids:
-            try:
-                os.kill(pid, signal.SIGKILL)
-                os.waitpid(pid, os.WNOHANG)
-            except (ProcessLookupError, ChildProcessError):
-                pass
-        time.sleep(0.01)
+    """Ends all that this process started; what loses its parent by that becomes our own child."""
+    children = pathlib.Path(f"/proc/self/task/{os.getpid()}/children")
+    while pids := children.read_text().split():
+        for pid in map(int, pids):
+            os.kill(pid, signal.SIGKILL)
+            os.waitpid(pid, 0)
 
 
 def _run_as_nobody(program):

@@ -3,7 +3,7 @@ from pathlib import Path
 import subprocess
 
 import desktop
-from desktop import Story, act, click, has, key, middle, type_text, wait, walk, xdotool
+from desktop import Story, act, click, has, key, middle, wait, walk, xdotool
 
 
 class Menus(Story):
@@ -119,20 +119,26 @@ class Menus(Story):
         self.home.seed(a, b)
         velmora = self.start()
         velmora.menu("File", "Add…")
-        velmora.find("select a file")
-        type_text(a)
-        key("ctrl+a", "ctrl+x", "ctrl+v", "Return")
-        self.eventually(velmora.rows, ["a, Visible", "b, Visible", "a, Visible"])
-        self.eventually(velmora.stored, [("a", "1"), ("b", "1"), ("a", 1)])
+        name = velmora.find("File name:", "text")
+        for keys, text in (("z", "z"), ("ctrl+a ctrl+c End ctrl+v", "zz"), ("ctrl+z", "z"),
+                           ("ctrl+y ctrl+a ctrl+x", "")):
+            key(*keys.split())
+            self.eventually(lambda: name.queryText().getText(0, -1), text)
+        click(velmora.find("a", "table cell"))
+        xdotool("keydown", "ctrl", "mousemove", *middle(velmora.find("b", "table cell")),
+                "click", 1, "keyup", "ctrl")
+        velmora.press("OK")
+        self.eventually(velmora.stored, [("a", "1"), ("b", "1"), ("a", 1), ("b", 1)])
+        self.assertEqual(velmora.rows(), ["a, Visible", "b, Visible"] * 2)
         self.assertEqual([has(row, "SELECTED") for row in velmora.row_nodes()],
-                         [False, False, True])
-        self.assertIn(f"selectPaths:({a})\n", velmora.log())
+                         [False, False, False, True])
+        self.assertIn(f"selectPaths:({a}, {b})\n", velmora.log())
         key("Home")
         self.eventually(lambda: has(velmora.row_nodes()[0], "SELECTED"), True)
         velmora.press("Add")
         velmora.find("select a file")
         key("Escape")
-        self.eventually(lambda: has(velmora.row_nodes()[2], "SELECTED"), True)
+        self.eventually(lambda: has(velmora.row_nodes()[3], "SELECTED"), True)
         self.assertIn("selectPaths:(null)\n", velmora.log())
 
     def test_keys(self):
