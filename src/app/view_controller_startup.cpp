@@ -98,6 +98,7 @@ void ViewController::launchReveal() {
     for (qsizetype index = list->size() - 1; index >= 0; --index) {
         ItemRecord record = list->at(index);
         Shell::run(command_lines::show(record.filePath()));
+        tellFileManagers(record.filePath());
         record.setVisible(VisibleForm::StringOne);
         list->replace(index, record);
     }
@@ -233,8 +234,16 @@ void ViewController::connectControls() {
             [this](const QString& message) { quietLine_.say(QuietLine::Item, message); });
     connect(&refresh_, &FileManagerRefresh::unreachedChanged, this, &ViewController::sayUnreached);
     if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
-        // A handler that failed may have changed the list in memory: show what is there.
         connect(application, &Application::exceptionReported, this,
-                [this] { ui_.fileListView->tableView()->reloadData(); });
+                &ViewController::showWhatIsThere);
     }
+}
+
+void ViewController::showWhatIsThere() {
+    // A handler that failed may have shortened the list in memory. Nothing is reported for it.
+    DragDropView* list = ui_.fileListView;
+    if (list->selectRowIndex() >= list->count()) {
+        list->setSelectRowIndex(static_cast<int>(list->count()) - 1);
+    }
+    list->tableView()->reloadData();
 }
