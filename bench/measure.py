@@ -6,6 +6,7 @@ import subprocess
 import sys
 import time
 
+import report
 from place import Place, end
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
@@ -38,6 +39,7 @@ class Bench:
     def __init__(self, place):
         self.place = place
         self.rows = []
+        self.beside = []
         self.growth = {}
 
     def add(self, *arguments, **options):
@@ -203,6 +205,94 @@ class Bench:
                  text / len(paths), "bytes", "≤ 4", (full - empty) * 1e6 <= 4 * text)
 
 
+    # Beside others
+
+    def window(self, *command):
+        """Milliseconds from a start until a large window is on the display."""
+        answer = subprocess.run([BIN / "bench_window_watch", *command], check=True, text=True,
+                                env=self.place.environment, stdin=subprocess.DEVNULL,
+                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL).stdout
+        return float(answer.split()[0])
+
+    def window_memory(self, *command):
+        """MB of a program at rest: its own and resident."""
+        watch = self.place.start(BIN / "bench_window_watch", "-", *command,
+                                 stdout=subprocess.PIPE, text=True)
+        memory = settled(int(watch.stdout.readline().split()[1]))
+        end(watch)
+        return memory
+
+    def desktop(self):
+        folder = self.place.items(1000)[0].parent
+        programs = {"Velmora, empty list": (BIN / "velmora",),
+                    "pcmanfm-qt, empty folder": ("pcmanfm-qt", self.place.home / "empty"),
+                    "thunar, empty folder": ("thunar", self.place.home / "empty"),
+                    "Velmora, 1,000 items": (BIN / "velmora",),
+                    "pcmanfm-qt, 1,000 items": ("pcmanfm-qt", folder),
+                    "thunar, 1,000 items": ("thunar", folder)}
+        (self.place.home / "empty").mkdir(exist_ok=True)
+        starts = {name: [] for name in programs}
+        for round_ in range(8):
+            for name, command in programs.items():
+                self.place.store(self.place.items(1000 if "1,000" in name else 0))
+                took = self.window(*command)
+                if round_ > 0:
+                    starts[name].append(took)
+        for name, command in programs.items():
+            self.place.store(self.place.items(1000 if "1,000" in name else 0))
+            own, resident = self.window_memory(*command)
+            self.beside.append((name, f"{statistics.median(starts[name]):.0f} ms",
+                                f"{own:.0f} MB", f"{resident:.0f} MB"))
+        self.hiding_alternative()
+
+    def hiding_alternative(self):
+        """A quit pass over 1,000 items, and the loop that a user would write."""
+        paths = self.place.items(1000)
+        loop = self.place.home / "hide.sh"
+        loop.write_text('cd "$1"; for name in *; do\n'
+                        'grep -qx -- "$name" .hidden || echo "$name" >> .hidden; done\n')
+        ours, theirs = [], []
+        for _ in range(3):
+            self.place.store(paths, Makeinvisibleallthelisteditemsonquit=True)
+            self.change("nohidden", paths)
+            ours.append(self.work_rounds("quit", 1)[0][0] * len(paths))
+            self.change("nohidden", paths)
+            begin = time.perf_counter()
+            subprocess.run(["sh", loop, paths[0].parent], check=True, stderr=subprocess.DEVNULL)
+            theirs.append((time.perf_counter() - begin) * 1000)
+            (paths[0].parent / ".hidden").unlink(missing_ok=True)
+        self.add("hiding 1,000 items, against a user's shell loop", statistics.median(ours),
+                 statistics.median(theirs), "ms", "", None)
+
+    def grow(self):
+        for count in (10, 100, 1000, 10_000, 100_000):
+            paths = self.place.items(count)
+            points = {}
+            points["start to first paint"], points["start of the bare window"] = \
+                self.starts(count, 7)
+            self.place.store(paths)
+            points["press of the switch"] = self.work("press", 5)[0]
+            points["page of 20 rows"] = self.work("scroll", 9)[0]
+            points["sort"] = self.work("sort", 5)[0]
+            points["drop of as many"] = self.work("drop", 3, count)[0]
+            points["hiding one item"] = self.hiding_one(count)
+            self.growth[count] = points
+            print(count, {name: round(value, 2) for name, value in points.items()}, flush=True)
+
+    def hiding_one(self, count):
+        """Milliseconds for one of the last items in a folder that lists that many."""
+        folder = self.place.items(1000, folder_size=999_999)[0].parent
+        (folder / ".hidden").write_text("".join(f"Listed name {i}.txt\n" for i in range(count)))
+        took = []
+        for _ in range(7):
+            for word in ("hidden", "nohidden"):
+                begin = time.perf_counter()
+                subprocess.run([COMPANIONS / "chflags", word, "Paper_0000000.txt"], cwd=folder,
+                               check=True, close_fds=False)
+                took.append((time.perf_counter() - begin) * 1000)
+        return statistics.median(took)
+
+
 def settled(pid):
     """The memory of a process once it has stopped changing, in MB: its own and resident."""
     last = None
@@ -223,17 +313,24 @@ def main():
     kinds = {"start": Bench.start, "pass": Bench.pass_, "chflags": Bench.chflags,
              "press": Bench.press, "scroll": Bench.scroll, "sort": Bench.sort, "drop": Bench.drop,
              "memory": Bench.memory}
+    kinds |= {"desktop": Bench.desktop, "growth": Bench.grow}
     wanted = [word for word in sys.argv[1:] if word in kinds] or list(kinds)
     with Place() as place:
         bench = Bench(place)
         for kind in wanted:
             kinds[kind](bench)
-    print()
-    heads = ("work", "figure", "floor", "ratio", "goal", "")
-    table = [heads] + [row.cells() for row in bench.rows]
-    widths = [max(len(cells[i]) for cells in table) for i in range(len(heads))]
-    for cells in table:
-        print("  ".join(cell.ljust(width) for cell, width in zip(cells, widths)).rstrip())
+    results = ROOT / "bench" / "results"
+    results.mkdir(exist_ok=True)
+    tables = {"table": [report.HEADS] + [row.cells() for row in bench.rows],
+              "beside": [report.BESIDE] + bench.beside}
+    for name, table in tables.items():
+        if len(table) > 1:
+            print("\n" + report.aligned(table))
+            (results / f"{name}.md").write_text(report.markdown(table))
+    if bench.growth:
+        report.plot(bench.growth, results)
+    if "--record" in sys.argv:
+        report.record(results, ROOT / "docs")
     return 0
 
 

@@ -1,9 +1,12 @@
 #include "app/launch.h"
 #include "platform/application.h"
+#include "platform/head_start.h"
 #include "platform/log.h"
 
 int main(int argc, char** argv) {
     Log::install();
+    HeadStart headStart;
     Application application(argc, argv);
+    headStart.finish();
     return launch(application);
 }

@@ -86,6 +86,7 @@ private:
     void updatePasswordCommand();
     void setPasswordItemTitle();
     void sayUnreached();
+    void promptAtLaunch();
     void presentAsModalWindow(RDPasswordViewController* dialog);
 
     QMainWindow* window_;

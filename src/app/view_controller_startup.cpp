@@ -9,7 +9,7 @@
 #include "hiding/command_lines.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
-#include "platform/file_attributes.h"
+#include "platform/file_finder.h"
 #include "platform/notification_center.h"
 #include "platform/notification_names.h"
 #include "platform/shell.h"
@@ -54,7 +54,7 @@ void ViewController::viewDidLoad() {
     addLocal();
     launchReveal();
 
-    const QString password = defaults.objectForKey(passwordKey).toString();
+    const QString password = storedPassword();
     ui_.requirePassword->setState(password.isEmpty() ? 0 : 1);
     ui_.textScrollCiew->viewport()->setAutoFillBackground(false);
     for (QWidget* line :
@@ -70,7 +70,7 @@ void ViewController::viewDidLoad() {
     if (ui_.fileListView->canDragDrop()) {
         loadList();
     } else if (!password.isEmpty()) {
-        QTimer::singleShot(passwordPromptDelay, this, [this] { inputRequire_password(nullptr); });
+        QTimer::singleShot(passwordPromptDelay, this, &ViewController::promptAtLaunch);
     }
     const bool empty = ui_.fileListView->count() == 0;
     ui_.customInfoView->setHidden(empty);
@@ -112,8 +112,9 @@ void ViewController::dropMissingItems() {
         // Without a message; but an item that was hidden on a disk that is not there now must not
         // be forgotten for good.
         ItemList missing;
-        list->removeIf([&missing](const ItemRecord& record) {
-            const bool gone = !fileExists(record.filePath());
+        FileFinder files(list->size());
+        list->removeIf([&](const ItemRecord& record) {
+            const bool gone = !files.exists(record.filePath());
             if (gone) {
                 missing.append(record);
             }
@@ -184,8 +185,12 @@ void ViewController::dressWindow() {
     ui_.requirePassword->setIcon(protection);
     ui_.requirePassword->setIconSize({42, 22});
     QIcon triangle;
-    triangle.addPixmap(image("disclosure-closed").pixmap(QSize(24, 24)), QIcon::Normal, QIcon::Off);
-    triangle.addPixmap(image("disclosure-open").pixmap(QSize(24, 24)), QIcon::Normal, QIcon::On);
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
+        triangle.addPixmap(image("disclosure-closed").pixmap(QSize(24, 24)), mode, QIcon::Off);
+        triangle.addPixmap(image("disclosure-open").pixmap(QSize(24, 24)), mode, QIcon::On);
+    }
+    // Only shows how the button beside it stands.
+    ui_.sanjiao->setEnabled(false);
     ui_.sanjiao->setIcon(triangle);
     ui_.sanjiao->setIconSize({12, 12});
     ui_.sanjiao->setAccessibleName(QStringLiteral("Disclosure triangle"));

@@ -34,13 +34,13 @@ QString dateText(const QDateTime& date) {
 
 }  // namespace
 
-InformationPane::InformationPane(const Ui::Main& outlets) : outlets_(outlets) {}
+InformationPane::InformationPane(const Ui::Main& outlets)
+    : outlets_(outlets), icon_(outlets.fileIconView, [this] { showIcon(); }) {}
 
 void InformationPane::showItem(const ItemRecord& record) {
     const QString path = record.filePath();
-    const QIcon icon = Workspace::shared().iconForFile(path);
-    outlets_.fileIconView->setPixmap(
-        icon.pixmap(QSize(iconSide, iconSide), outlets_.fileIconView->devicePixelRatioF()));
+    path_ = path;
+    icon_.request();
     const auto attributes = attributesOfItem(path);
     outlets_.filleTitle->setText(record.fileTitle());
     outlets_.kinDescLabel->setText(Workspace::shared().typeOfFile(path));
@@ -50,7 +50,14 @@ void InformationPane::showItem(const ItemRecord& record) {
     outlets_.modifiedDescLabel->setText(attributes ? dateText(attributes->modified) : QString());
 }
 
+void InformationPane::showIcon() {
+    const QIcon icon = Workspace::shared().iconForFile(path_);
+    outlets_.fileIconView->setPixmap(
+        icon.pixmap(QSize(iconSide, iconSide), outlets_.fileIconView->devicePixelRatioF()));
+}
+
 void InformationPane::clear() {
+    icon_.cancel();
     outlets_.fileIconView->clear();
     for (QLabel* label :
          {static_cast<QLabel*>(outlets_.filleTitle), static_cast<QLabel*>(outlets_.kinDescLabel),

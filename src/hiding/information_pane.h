@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QList>
+#include <QString>
+
+#include "platform/after_paint.h"
 
 class ItemRecord;
 class QLabel;
@@ -16,7 +18,7 @@ public:
     explicit InformationPane(const Ui::Main& outlets);
 
     /// Fills the pane with what is known of the record's item. Of an item that no longer exists
-    /// type and dates stay empty and the size reads zero.
+    /// type and dates stay empty and the size reads zero. The icon follows after the texts.
     void showItem(const ItemRecord& record);
     void clear();
 
@@ -24,5 +26,9 @@ public:
     void setLabelsHidden(bool hidden);
 
 private:
+    void showIcon();
+
     const Ui::Main& outlets_;
+    QString path_;
+    AfterPaint icon_;
 };

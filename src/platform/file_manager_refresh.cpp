@@ -31,6 +31,18 @@ QStringList joined(const QList<QStringList>& batches) {
     return withinLimits(all);
 }
 
+// Outlives the program, and so must not hold on to its output: whoever reads that waits for its
+// end.
+void startAlone(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.startDetached();
+}
+
 }  // namespace
 
 FileManagerRefresh::FileManagerRefresh(QString program, QObject* parent)
@@ -58,11 +70,10 @@ FileManagerRefresh::~FileManagerRefresh() {
         process_.waitForFinished();
     }
     if (const auto paths = joined(waiting_); !paths.isEmpty())
-        QProcess::startDetached(program_, paths);
+        startAlone(program_, paths);
     if (const auto paths = joined(later); !paths.isEmpty()) {
         const auto wait = std::chrono::ceil<std::chrono::seconds>(repeatAfter_ * repeats);
-        QProcess::startDetached(program_,
-                                QStringList{"-c", "-w", QString::number(wait.count())} + paths);
+        startAlone(program_, QStringList{"-c", "-w", QString::number(wait.count())} + paths);
     }
 }
 

@@ -56,7 +56,9 @@ Workspace::~Workspace() {
 }
 
 Workspace& Workspace::shared() {
-    static Workspace standard;
+    if (current == nullptr) {
+        static Workspace standard;
+    }
     return *current;
 }
 

@@ -90,6 +90,7 @@ class Trouble(Story):
         velmora = self.start()
         for folder, told in (self.home.files, "still visible: its folder cannot be written"), (
                 store, "could not be saved"):
+            self.addCleanup(folder.chmod, 0o700)
             folder.chmod(0o500)
             self.press(velmora, "a")
             velmora.says(told)

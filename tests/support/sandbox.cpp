@@ -22,6 +22,7 @@ void writeScript(const QString& path, const QString& text) {
 }  // namespace
 
 Sandbox::Sandbox() {
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     qputenv("XDG_CONFIG_HOME", (folder() + QStringLiteral("/config")).toUtf8());
     qInstallMessageHandler(
         [](QtMsgType, const QMessageLogContext&, const QString& message) { logLines << message; });
