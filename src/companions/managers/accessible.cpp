@@ -104,7 +104,7 @@ std::vector<Accessible> Accessible::menus() const {
     for (size_t seen = 0; !queue.empty() && seen < enough; ++seen) {
         const auto next = queue.front();
         queue.pop_front();
-        const auto below = next.children();
+        auto below = next.children();
         if (next.role() == menuBarRole)
             return below;
         if (below.size() <= enough)
