@@ -4,12 +4,17 @@
 
 #include "first_paint.h"
 
-/// The floor of a start: a window with one list widget.
+/// The floor of a start: a window with one list widget. With "--text" the list has one row, so that
+/// the fonts of the system are needed as in every window with a text.
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     const FirstPaint firstPaint(QCoreApplication::arguments());
     QMainWindow window;
-    window.setCentralWidget(new QListWidget);
+    auto* list = new QListWidget;
+    if (QCoreApplication::arguments().contains(QStringLiteral("--text"))) {
+        list->addItem(QStringLiteral("Item"));
+    }
+    window.setCentralWidget(list);
     window.resize(780, 540);
     window.show();
     return QApplication::exec();
