@@ -12,7 +12,7 @@ from place import Place, end
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BIN = ROOT / "build" / "release" / "bin"
 COMPANIONS = ROOT / "build" / "release" / "libexec" / "velmora"
-PART = 100  # items of a pass at a time
+PART = {"quit": 20, "launch": 50}  # items of a pass at a time
 AT_LAUNCH = {"Makevisibleallthelisteditemsatlaunch": True}
 
 
@@ -98,7 +98,7 @@ class Bench:
                 # Each pass finds everything as the other one has left it.
                 word = "nohidden" if kind == "quit" else "hidden"
                 self.change(word, paths)
-                found += self.work_rounds(kind, PART)
+                found += self.work_rounds(kind, PART[kind])
         return results
 
     def change(self, word, paths):
@@ -261,7 +261,7 @@ class Bench:
         for _ in range(3):
             self.place.store(paths, Makeinvisibleallthelisteditemsonquit=True)
             self.change("nohidden", paths)
-            rounds = self.work_rounds("quit", PART)
+            rounds = self.work_rounds("quit", PART["quit"])
             ours.append(statistics.mean(took for took, _ in rounds) * len(paths))
             self.change("nohidden", paths)
             begin = time.perf_counter()

@@ -37,8 +37,7 @@ void measureInParts(const char* name, qsizetype part,
         defaults.synchronize();
         const double time = milliseconds([&] { pass(window); });
         const auto count = static_cast<double>(list.size());
-        constexpr qsizetype floorCount = 50;
-        tell(name, time / count, floorOf(floorCount) / floorCount);
+        tell(name, time / count, floorOf(list.size()) / count);
     }
 }
 
