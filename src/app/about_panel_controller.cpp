@@ -34,6 +34,7 @@ QWidget* AboutPanelController::window() {
     ui.descriptionLabel->setText(
         text("Hides files and folders from the file manager, and shows them again."));
     ui.copyrightLabel->setText(text("Copyright © 2026 The Velmora developers"));
+    windowDidLoad();
     return window_.get();
 }
 

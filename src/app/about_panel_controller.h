@@ -17,6 +17,8 @@ public:
 
     /// The window, loaded on the first request.
     QWidget* window();
+    /// Nothing is left to do once the window is there.
+    void windowDidLoad() {}
     /// Ends the modal loop; the window may close.
     bool windowShouldClose();
 

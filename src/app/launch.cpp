@@ -61,6 +61,8 @@ int launch(Application& application) {
     AppDelegate delegate(outlets);
     RDWindowController windowController(&window);
     ViewController viewController(&window, delegate);
+    QObject::connect(&windowController, &RDWindowController::itemHidden, &viewController,
+                     &ViewController::tellFileManagers);
     windowController.windowDidLoad();
     viewController.viewDidLoad();
     window.show();

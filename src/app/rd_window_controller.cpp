@@ -33,6 +33,7 @@ void RDWindowController::closeApplication() {
             record.setVisible(VisibleForm::StringZero);
             list.replace(index, record);
             Shell::run(command_lines::hideAtQuit(record.filePath()));
+            emit itemHidden(record.filePath());
         }
         defaults.setItemList(list);
     }

@@ -20,6 +20,10 @@ public:
     /// Ends the modal loop that is running, if any; the window may close.
     bool windowShouldClose();
 
+signals:
+    /// The quit pass has hidden the item, as far as the command could.
+    void itemHidden(const QString& path);
+
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 

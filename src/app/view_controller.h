@@ -36,6 +36,11 @@ public:
     /// Builds the main window's state from the store; once, before the window is shown.
     void viewDidLoad();
 
+    /// Only passes the object on: the view shows no represented object.
+    void setRepresentedObject(const QVariant& object) { setProperty("representedObject", object); }
+    /// Has open file managers look again at an item that was hidden or shown.
+    void tellFileManagers(const QString& path) { refresh_.itemChanged(path); }
+
     // Menus and routing.
     void addNotification();
     void addLocal();
@@ -86,6 +91,8 @@ private:
     void updatePasswordCommand();
     void setPasswordItemTitle();
     void sayUnreached();
+    void showWhatIsThere();
+    void promptAtLaunch();
     void presentAsModalWindow(RDPasswordViewController* dialog);
 
     QMainWindow* window_;

@@ -10,7 +10,6 @@
 #include "platform/workspace.h"
 #include "preferences/rd_two_window_controller.h"
 #include "state/preference_keys.h"
-#include "state/user_defaults.h"
 #include "ui_Main.h"
 
 namespace {
@@ -89,8 +88,7 @@ void ViewController::setMenuTitles() {
 }
 
 void ViewController::setPasswordItemTitle() {
-    const bool stored =
-        !UserDefaults::standardUserDefaults().objectForKey(passwordKey).toString().isEmpty();
+    const bool stored = !storedPassword().isEmpty();
     ui_.passwordMeunItem->setText(mainText(stored ? "inPasswordMeunItem" : "unPasswordMeunItem"));
 }
 

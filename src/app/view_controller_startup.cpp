@@ -54,7 +54,7 @@ void ViewController::viewDidLoad() {
     addLocal();
     launchReveal();
 
-    const QString password = defaults.objectForKey(passwordKey).toString();
+    const QString password = storedPassword();
     ui_.requirePassword->setState(password.isEmpty() ? 0 : 1);
     ui_.textScrollCiew->viewport()->setAutoFillBackground(false);
     for (QWidget* line :
@@ -70,7 +70,7 @@ void ViewController::viewDidLoad() {
     if (ui_.fileListView->canDragDrop()) {
         loadList();
     } else if (!password.isEmpty()) {
-        QTimer::singleShot(passwordPromptDelay, this, [this] { inputRequire_password(nullptr); });
+        QTimer::singleShot(passwordPromptDelay, this, &ViewController::promptAtLaunch);
     }
     const bool empty = ui_.fileListView->count() == 0;
     ui_.customInfoView->setHidden(empty);
@@ -98,6 +98,7 @@ void ViewController::launchReveal() {
     for (qsizetype index = list->size() - 1; index >= 0; --index) {
         ItemRecord record = list->at(index);
         Shell::run(command_lines::show(record.filePath()));
+        tellFileManagers(record.filePath());
         record.setVisible(VisibleForm::StringOne);
         list->replace(index, record);
     }
@@ -185,8 +186,12 @@ void ViewController::dressWindow() {
     ui_.requirePassword->setIcon(protection);
     ui_.requirePassword->setIconSize({42, 22});
     QIcon triangle;
-    triangle.addPixmap(image("disclosure-closed").pixmap(QSize(24, 24)), QIcon::Normal, QIcon::Off);
-    triangle.addPixmap(image("disclosure-open").pixmap(QSize(24, 24)), QIcon::Normal, QIcon::On);
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Disabled}) {
+        triangle.addPixmap(image("disclosure-closed").pixmap(QSize(24, 24)), mode, QIcon::Off);
+        triangle.addPixmap(image("disclosure-open").pixmap(QSize(24, 24)), mode, QIcon::On);
+    }
+    // Only shows how the button beside it stands.
+    ui_.sanjiao->setEnabled(false);
     ui_.sanjiao->setIcon(triangle);
     ui_.sanjiao->setIconSize({12, 12});
     ui_.sanjiao->setAccessibleName(QStringLiteral("Disclosure triangle"));
@@ -229,8 +234,16 @@ void ViewController::connectControls() {
             [this](const QString& message) { quietLine_.say(QuietLine::Item, message); });
     connect(&refresh_, &FileManagerRefresh::unreachedChanged, this, &ViewController::sayUnreached);
     if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
-        // A handler that failed may have changed the list in memory: show what is there.
         connect(application, &Application::exceptionReported, this,
-                [this] { ui_.fileListView->tableView()->reloadData(); });
+                &ViewController::showWhatIsThere);
     }
+}
+
+void ViewController::showWhatIsThere() {
+    // A handler that failed may have shortened the list in memory. Nothing is reported for it.
+    DragDropView* list = ui_.fileListView;
+    if (list->selectRowIndex() >= list->count()) {
+        list->setSelectRowIndex(static_cast<int>(list->count()) - 1);
+    }
+    list->tableView()->reloadData();
 }

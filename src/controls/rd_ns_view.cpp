@@ -20,7 +20,7 @@ RDNSView::RDNSView(QWidget* parent) : QWidget(parent) {
 }
 
 void RDNSView::setGrain(float factor) {
-    noisePattern_ = createNoiseImage(tileSide, tileSide, factor);
+    noisePattern_ = createNoiseImageRefWithWidth(tileSide, tileSide, factor);
     update();
 }
 
@@ -32,7 +32,7 @@ void RDNSView::setBackgroundColor(const QColor& color) {
     update();
 }
 
-QImage RDNSView::createNoiseImage(int width, int height, float factor) {
+QImage RDNSView::createNoiseImageRefWithWidth(int width, int height, float factor) {
     std::srand(noiseSeed);
     if (width <= 0 || height <= 0) {
         return {};

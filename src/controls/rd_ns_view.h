@@ -26,7 +26,7 @@ public:
     /// A grey tile of noise: for each pixel, first row first, the next number of the standard
     /// library's generator seeded with 124, modulo 256, times `factor` in single precision,
     /// truncated. Every tile is the same sequence. A null image when either side is not positive.
-    static QImage createNoiseImage(int width, int height, float factor);
+    static QImage createNoiseImageRefWithWidth(int width, int height, float factor);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

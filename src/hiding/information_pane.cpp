@@ -13,7 +13,7 @@ namespace {
 
 constexpr int iconSide = 96;
 
-// Bytes divided by 8192, in single precision: the required figure.
+// In units of 8192 bytes, in single precision: the figure has always been counted so.
 QString sizeText(qint64 bytes) {
     const auto figure = static_cast<float>(static_cast<double>(bytes) * 0.125 * 0.0009765625);
     return QString::asprintf("%f K", static_cast<double>(figure));

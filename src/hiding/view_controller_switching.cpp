@@ -46,7 +46,7 @@ void ViewController::touchSwitch(RDSwitchButton* sender) {
     list->reloadData();
     // The record keeps what was asked; the quiet line tells when the item is not so.
     visibility_.check(selectPath_, visible);
-    refresh_.itemChanged(selectPath_);
+    tellFileManagers(selectPath_);
 }
 
 void ViewController::updateItemCommands(bool visible) {

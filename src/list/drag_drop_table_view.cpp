@@ -147,8 +147,8 @@ void DragDropTableView::setDataSource(TableDataSource* source) {
 
 int DragDropTableView::rowHeight() const {
     // 40 units, unless the user's font needs more.
-    const int given = source_ != nullptr ? source_->heightOfRow(0) : 40;
-    return std::max(given, fontMetrics().height() + 8);
+    const int usual = source_ != nullptr ? source_->heightOfRow(0) : 40;
+    return std::max(usual, fontMetrics().height() + 8);
 }
 
 void DragDropTableView::reloadData() {

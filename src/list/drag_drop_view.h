@@ -106,6 +106,8 @@ public:
     QIcon iconOfRow(int row) const override;
     int heightOfRow(int /*row*/) const override { return 40; }
     QString titleOfRow(int row) const override;
+    /// The value of every cell; never shown.
+    QString objectValueForRow(int /*row*/) const { return QStringLiteral("1"); }
 
     /// The drag shows the copy cursor, whatever it carries.
     Qt::DropAction draggingEntered(const QMimeData* mimeData) const;
@@ -116,7 +118,8 @@ public:
     bool prepareForDragOperation(const QMimeData* mimeData);
 
 signals:
-    /// Some of what was dropped could not be taken: `text` says why, for the quiet line.
+    /// Some of what was dropped could not be taken: `text` says why, for the quiet line. An empty
+    /// text after a drop that could be taken whole.
     void dropRefused(const QString& text);
 
 protected:

@@ -1,6 +1,7 @@
 #include <QDragEnterEvent>
 #include <QHash>
 #include <QMimeData>
+#include <QSysInfo>
 #include <QUrl>
 
 #include "list/drag_drop_view.h"
@@ -14,12 +15,19 @@ struct DroppedPaths {
     bool someUnreadable = false;
 };
 
+bool isHere(const QUrl& url) {
+    const QString host = url.host();
+    return url.isLocalFile() &&
+           (host.isEmpty() || host == QLatin1String("localhost") ||
+            host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
+}
+
 // The file names on the drag, as absolute paths in the drag's order. Names that are no valid text
 // cannot be kept as one, and addresses on other machines are no files here.
 DroppedPaths droppedPaths(const QMimeData* data) {
     DroppedPaths dropped;
     for (const QUrl& url : data->urls()) {
-        const QString path = url.toLocalFile();
+        const QString path = isHere(url) ? url.path(QUrl::FullyDecoded) : QString();
         if (path.isEmpty() || path.contains(QChar::ReplacementCharacter)) {
             dropped.someUnreadable = true;
         } else {
@@ -80,11 +88,10 @@ bool DragDropView::prepareForDragOperation(const QMimeData* mimeData) {
     if (!fileLists_) {
         fileLists_.emplace();
     }
-    if (dropped.someUnreadable) {
-        emit dropRefused(
-            tr("Some of the dropped items could not be added: their names or places "
-               "are not files on this computer that can be written as text."));
-    }
+    emit dropRefused(dropped.someUnreadable
+                         ? tr("Some of the dropped items could not be added: their names or places "
+                              "are not files on this computer that can be written as text.")
+                         : QString());
     if (dropped.paths.isEmpty()) {
         return true;
     }

@@ -24,6 +24,14 @@ public:
     void setPaixuImageHidden(bool hidden);
     bool isPaixuImageHidden() const { return paixuImageHidden_; }
 
+    /// Grounds with and without the pointer over the button.
+    QColor mouseEnteredColor() const { return mouseEnteredColor_; }
+    void setMouseEnteredColor(const QColor& color) { mouseEnteredColor_ = color; }
+    QColor mouseExitedColor() const { return mouseExitedColor_; }
+    void setMouseExitedColor(const QColor& color) { mouseExitedColor_ = color; }
+
+    QIcon backgroundImage;  ///< never used
+
     QSize sizeHint() const override;
 
 protected:

@@ -18,8 +18,8 @@ QString text(const char* key) {
 
 // Exact equality; a password that is not stored equals nothing, not even an empty text.
 bool equalsStoredPassword(const QString& typed) {
-    const QVariant stored = UserDefaults::standardUserDefaults().objectForKey(passwordKey);
-    return stored.typeId() == QMetaType::QString && stored.toString() == typed;
+    const QString stored = storedPassword();
+    return !stored.isNull() && stored == typed;
 }
 
 void postChangePassword(const QVariantMap& userInfo) {

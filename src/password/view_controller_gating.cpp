@@ -19,7 +19,7 @@ QVariant stored(const QString& key) {
 }
 
 bool isPasswordStored() {
-    return !stored(passwordKey).toString().isEmpty();
+    return !storedPassword().isEmpty();
 }
 
 void storeProtection(bool on) {
@@ -71,6 +71,13 @@ void ViewController::changePasswordMeunItem(const Notification& /*notification*/
     presentAsModalWindow(dialog);
 }
 
+void ViewController::promptAtLaunch() {
+    // Whoever pressed the protection switch meanwhile has been asked, or is being asked, already.
+    if (!canEditorItem() && window_->findChild<RDPasswordViewController*>() == nullptr) {
+        inputRequire_password(nullptr);
+    }
+}
+
 void ViewController::presentAsModalWindow(RDPasswordViewController* dialog) {
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->viewDidLoad();
@@ -85,8 +92,8 @@ void ViewController::changePassword(const Notification& notification) {
         storeProtection(true);
         ui_.passwordMeunItem->setText(
             Bundle::localizedString(QStringLiteral("inPasswordMeunItem"), QStringLiteral("Main")));
-    } else if (const QVariant password = stored(passwordKey);
-               password.typeId() == QMetaType::QString && password.toString() == typed.toString()) {
+    } else if (const QString password = storedPassword();
+               !password.isNull() && password == typed.toString()) {
         loadList();
     }
     Log::line(QStringLiteral("password:") + Log::describe(typed));

@@ -65,6 +65,14 @@ bool Application::notify(QObject* receiver, QEvent* event) {
     return false;
 }
 
+bool Application::event(QEvent* event) {
+    if (event->type() == QEvent::Quit) {
+        terminate();
+        return true;
+    }
+    return QApplication::event(event);
+}
+
 void Application::runModalForWindow(QWidget* window) {
     QEventLoop loop;
     CloseWatcher watcher(window, &loop);

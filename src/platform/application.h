@@ -16,6 +16,10 @@ public:
     /// Reports an exception that leaves an event handler to the log; the program goes on.
     bool notify(QObject* receiver, QEvent* event) override;
 
+    /// A quit that comes from outside, such as a log-out, terminates at once: only the window's own
+    /// close and the quit command take the quit path.
+    bool event(QEvent* event) override;
+
     /// Shows `window` application-modally and returns when stopModal() was called for it (or when
     /// it was closed by other means). The window is hidden then, not destroyed.
     static void runModalForWindow(QWidget* window);

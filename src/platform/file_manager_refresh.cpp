@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QSet>
+#include <QTimerEvent>
 
 namespace {
 
@@ -91,10 +92,11 @@ void FileManagerRefresh::tellNew() {
 
 void FileManagerRefresh::repeatLater(const Repeat& repeat) {
     repeats_.append(repeat);
-    QTimer::singleShot(repeatAfter_, this, &FileManagerRefresh::tellAgain);
+    startTimer(repeatAfter_);
 }
 
-void FileManagerRefresh::tellAgain() {
+void FileManagerRefresh::timerEvent(QTimerEvent* event) {
+    killTimer(event->timerId());
     const auto [paths, times] = repeats_.takeFirst();
     if (times > 1)
         repeatLater({paths, times - 1});

@@ -44,6 +44,10 @@ signals:
     /// unreached() has changed.
     void unreachedChanged();
 
+protected:
+    /// A repeat is due.
+    void timerEvent(QTimerEvent* event) override;
+
 private:
     struct Repeat {
         QStringList paths;
@@ -52,7 +56,6 @@ private:
 
     void tellNew();
     void repeatLater(const Repeat& repeat);
-    void tellAgain();
     void startNext();
     void readAnswer();
 

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMetaMethod>
 #include <QWidget>
@@ -19,9 +20,22 @@ bool canPerform(const QWidget* widget, const QByteArray& command) {
     if (widget == nullptr || widget->metaObject()->indexOfSlot("copy()") < 0) {
         return false;
     }
+    if (command == "del") {
+        const auto* field = qobject_cast<const QLineEdit*>(widget);
+        return field != nullptr && !field->isReadOnly();
+    }
     const int slot = widget->metaObject()->indexOfSlot(command + "()");
     const bool changes = command != "copy" && command != "selectAll";
     return slot >= 0 && !(changes && isReadOnly(widget));
+}
+
+void perform(QWidget* widget, const QByteArray& command) {
+    // The one command that is no slot.
+    if (auto* field = qobject_cast<QLineEdit*>(widget); field != nullptr && command == "del") {
+        field->del();
+        return;
+    }
+    QMetaObject::invokeMethod(widget, command.constData());
 }
 
 }  // namespace
@@ -33,7 +47,7 @@ void StandardActions::connectAction(QAction* action, const char* command, QMenu*
     connect(action, &QAction::triggered, this, [name] {
         QWidget* focus = QApplication::focusWidget();
         if (canPerform(focus, name)) {
-            QMetaObject::invokeMethod(focus, name.constData());
+            perform(focus, name);
         }
     });
     connect(menu, &QMenu::aboutToShow, action,

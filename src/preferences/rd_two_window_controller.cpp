@@ -79,8 +79,8 @@ void RDTwoWindowController::windowDidLoad() {
     ui_->general->setText(Bundle::localizedString(QStringLiteral("General"), table));
     ui_->general->setIcon(Bundle::imageNamed(QStringLiteral("general")));
 
-    // The given frames are the least sizes: a row keeps its place while font and language allow,
-    // and pushes the others down otherwise.
+    // The frames in options() are the least sizes: a row keeps its place while font and language
+    // allow, and pushes the others down otherwise.
     generalView_ = new QWidget(window_->centralWidget());
     generalView_->setObjectName(QStringLiteral("generalView"));
     generalView_->setMinimumSize(paneSize);

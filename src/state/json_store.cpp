@@ -147,7 +147,10 @@ void JsonStore::startSave() {
         emit saveEnded(number);
         return reason;
     };
-    save_ = std::async(std::launch::async, save);
+    // Where no thread can be had now, the window has to wait after all.
+    save_ = std::async(std::launch::async | std::launch::deferred, save);
+    if (save_.wait_for(std::chrono::seconds(0)) == std::future_status::deferred)
+        finishSave();
 }
 
 void JsonStore::takeResult(int number) {

@@ -6,6 +6,11 @@
 #include "state/readings.h"
 #include "state/user_defaults.h"
 
+QString storedPassword() {
+    const QVariant stored = UserDefaults::standardUserDefaults().objectForKey(passwordKey);
+    return stored.typeId() == QMetaType::QString ? stored.toString() : QString();
+}
+
 QString preferenceName(Preference preference) {
     switch (preference) {
         case Preference::MakeVisibleAtLaunch:

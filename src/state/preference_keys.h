@@ -8,6 +8,10 @@ inline constexpr QLatin1StringView itemListKey{"fileListView_List"};
 inline constexpr QLatin1StringView passwordKey{"password"};
 inline constexpr QLatin1StringView requirePasswordKey{"requirePassword"};
 
+/// The stored password; null when none is stored (anything but a text is none), which is not the
+/// same as empty.
+QString storedPassword();
+
 /// The four boolean preferences, all off when absent. Their keys go through a localisation table.
 enum class Preference {
     MakeVisibleAtLaunch,

@@ -247,6 +247,41 @@ private slots:
         QVERIFY(w.frame.isVisible());
     }
 
+    void staysUsableAfterADropThatFailed() {
+        Sandbox sandbox;
+        const QStringList paths = sandbox.makeFiles({"a", "b", "c"});
+        sandbox.storeList(paths);
+        Window w;
+        w.list()->selectTableViewCellForRowIndex(2);
+        drop(*w.list(), {paths.first()});
+        QTRY_COMPARE(w.list()->selectRowIndex(), 1);
+        w.press(w.ui.switchButton);
+        QCOMPARE(sandbox.stored(), QString("b:\"1\" c:\"0\""));
+    }
+
+    void endsFromOutsideWithoutTheQuitPass() {
+        Sandbox sandbox;
+        sandbox.storeList(sandbox.makeFiles({"a"}));
+        setPreference(Preference::MakeInvisibleOnQuit, true);
+        Window w;
+        QEvent quit(QEvent::Quit);  // what a session manager's end comes as
+        QCoreApplication::sendEvent(qApp, &quit);
+        QCOMPARE(sandbox.commands(), QStringList());
+    }
+
+    void deletesInATextField() {
+        Sandbox sandbox;
+        Window w;
+        QLineEdit field("abc", &w.frame);
+        field.show();
+        QApplication::setActiveWindow(&w.frame);
+        field.setFocus();
+        QTRY_VERIFY(field.hasFocus());
+        field.selectAll();
+        w.choose(w.ui.deleteMenuItem);
+        QCOMPARE(field.text(), QString());
+    }
+
     void hidesAtQuitUnquotedAndOnce() {
         Sandbox sandbox;
         sandbox.storeList(sandbox.makeFiles({"a", "b c", "d"}));

@@ -8,6 +8,7 @@
 #include "managers/bus.h"
 #include "managers/thunar.h"
 #include "managers/wait.h"
+#include "restart.h"
 
 namespace {
 
@@ -80,7 +81,8 @@ std::vector<std::string> resetRunningManagers() {
     }
     if (runs("org.Nemo") && !resetByMenu(tree, "nemo"))
         missed.emplace_back("Nemo");
-    if (runs("org.pcmanfm.PCManFM") && !resetByMenu(tree, "pcmanfm-qt"))
+    if (runs("org.pcmanfm.PCManFM") && !resetByMenu(tree, "pcmanfm-qt") &&
+        !restartPcmanfmQt(*session))
         missed.emplace_back("PCManFM-Qt");
     if (runs(Thunar::service) && !resetThunar(Thunar(*session)))
         missed.emplace_back("Thunar");

@@ -83,16 +83,22 @@ std::vector<std::filesystem::path> profileFiles(const std::filesystem::path& fol
 
 }  // namespace
 
+std::vector<std::unique_ptr<Place>> pcmanfmQtPlaces() {
+    const auto folder = std::filesystem::path(g_get_user_config_dir()) / "pcmanfm-qt";
+    std::vector<std::unique_ptr<Place>> places;
+    for (const auto& file : profileFiles(folder, "settings.conf"))
+        places.push_back(std::make_unique<IniPlace>(file, "FolderView", "ShowHidden"));
+    return places;
+}
+
 std::vector<std::unique_ptr<Place>> allPlaces() {
     const std::filesystem::path configuration = g_get_user_config_dir();
     const std::filesystem::path data = g_get_user_data_dir();
-    std::vector<std::unique_ptr<Place>> places;
+    auto places = pcmanfmQtPlaces();
     const auto addFile = [&places](const std::filesystem::path& file, const char* section,
                                    const char* key) {
         places.push_back(std::make_unique<IniPlace>(file, section, key));
     };
-    for (const auto& file : profileFiles(configuration / "pcmanfm-qt", "settings.conf"))
-        addFile(file, "FolderView", "ShowHidden");
     for (const auto& file : profileFiles(configuration / "pcmanfm", "pcmanfm.conf"))
         addFile(file, "ui", "show_hidden");
     addFile(data / "dolphin/view_properties/global/.directory", "Settings", "HiddenFilesShown");

@@ -21,3 +21,6 @@ public:
 /// All places on this desktop. Those that are read from files come first, the one that may ask a
 /// service comes last.
 std::vector<std::unique_ptr<Place>> allPlaces();
+
+/// Those of PCManFM-Qt alone, one for each of its profiles.
+std::vector<std::unique_ptr<Place>> pcmanfmQtPlaces();

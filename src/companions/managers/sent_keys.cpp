@@ -90,7 +90,7 @@ xcb_atom_t SentKeys::firstAtom(xcb_window_t window, xcb_atom_t property) const {
                : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
-std::vector<SentKeys::Window> SentKeys::windowsOf(std::string_view windowClass) const {
+std::vector<SentKeys::Window> SentKeys::windowsOf(std::string_view windowClass, Kind kind) const {
     std::vector<Window> windows;
     if (!isConnected())
         return windows;
@@ -104,9 +104,10 @@ std::vector<SentKeys::Window> SentKeys::windowsOf(std::string_view windowClass) 
     const auto* ids = static_cast<const xcb_window_t*>(xcb_get_property_value(list.get()));
     const auto title = atom("_NET_WM_NAME");
     const auto type = atom("_NET_WM_WINDOW_TYPE");
-    const auto normal = atom("_NET_WM_WINDOW_TYPE_NORMAL");
+    const auto wanted =
+        atom(kind == Kind::Normal ? "_NET_WM_WINDOW_TYPE_NORMAL" : "_NET_WM_WINDOW_TYPE_DIALOG");
     for (uint32_t number = 0; number < list->value_len; ++number) {
-        if (firstAtom(ids[number], type) != normal)
+        if (firstAtom(ids[number], type) != wanted)
             continue;
         // Two texts, each with a zero byte at its end: the instance and the class.
         const auto names = textProperty(ids[number], XCB_ATOM_WM_CLASS);

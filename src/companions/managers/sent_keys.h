@@ -20,9 +20,10 @@ public:
     SentKeys();
 
     bool isConnected() const;
-    /// The windows, but no dialogs, of the programs of that class (compared without regard to
-    /// case).
-    std::vector<Window> windowsOf(std::string_view windowClass) const;
+    enum class Kind { Normal, Dialog };
+
+    /// The windows of that kind of the programs of that class (compared without regard to case).
+    std::vector<Window> windowsOf(std::string_view windowClass, Kind kind = Kind::Normal) const;
     /// Sends a press and a release of the key that gives the symbol, alone or with the control
     /// key. False when no key of the keyboard gives it.
     bool send(const Window& window, xcb_keysym_t symbol, bool withControl) const;
