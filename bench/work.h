@@ -30,5 +30,6 @@ void measureScroll(int rounds);
 void measureSort(int rounds);
 /// `folder` holds nothing; the paths need not exist.
 void measureDrop(int rounds, int dropped);
-void measureLaunchPass(int rounds);
-void measureQuitPass(int rounds);
+/// One round of these is a pass over `part` items of the list.
+void measureLaunchPass(int part);
+void measureQuitPass(int part);
