@@ -230,7 +230,7 @@ QIcon DragDropView::iconOfRow(int row) const {
         return {};
     }
     const QString path = fileLists_->at(row).filePath();
-    const QIcon icon = Workspace::shared().iconForFile(path);
+    QIcon icon = Workspace::shared().iconForFile(path);
     icons_.insert(path, new QIcon(icon));
     return icon;
 }
