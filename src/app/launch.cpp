@@ -8,6 +8,7 @@
 #include "app/rd_window_controller.h"
 #include "app/view_controller.h"
 #include "controls/accessible_buttons.h"
+#include "controls/velmora_style.h"
 #include "list/accessible_items.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
@@ -36,6 +37,7 @@ void prepare() {
     QApplication::setApplicationDisplayName(QStringLiteral("Velmora"));
     QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("com.velmora.Velmora"));
+    QApplication::setStyle(new VelmoraStyle);
     Bundle::loadTranslations();
     QApplication::setWindowIcon(Bundle::imageNamed(QStringLiteral("velmora")));
     Shell::setCompanionsFolder(Shell::defaultCompanionsFolder());
