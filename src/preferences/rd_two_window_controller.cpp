@@ -83,7 +83,6 @@ void RDTwoWindowController::windowDidLoad() {
     // allow, and pushes the others down otherwise.
     generalView_ = new QWidget(window_->centralWidget());
     generalView_->setObjectName(QStringLiteral("generalView"));
-    generalView_->setMinimumSize(paneSize);
     auto* content = new QVBoxLayout(window_->centralWidget());
     content->setContentsMargins(0, 0, 0, paneBottom);
     content->addWidget(generalView_);
@@ -112,6 +111,8 @@ void RDTwoWindowController::windowDidLoad() {
         box->setChecked(preference(option.preference));
     }
     rows->addStretch();
+    generalView_->setMinimumSize(paneSize.expandedTo(rows->minimumSize()));
+    window_->adjustSize();
 }
 
 void RDTwoWindowController::checkButton1Touch(QCheckBox* sender) {
