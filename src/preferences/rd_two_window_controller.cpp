@@ -101,7 +101,7 @@ void RDTwoWindowController::windowDidLoad() {
         auto* box = new QCheckBox(Bundle::localizedString(QLatin1String(option.titleKey), table),
                                   generalView_);
         box->setObjectName(preferenceName(option.preference));
-        box->setMinimumSize(option.frame.size());
+        box->setMinimumSize(option.frame.size().expandedTo(box->sizeHint()));
         rows->addSpacing(top - (option.frame.y() + option.frame.height()) -
                          (box->sizeHint().height() - option.frame.height()) / 2);
         rows->addWidget(box);

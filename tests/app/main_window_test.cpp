@@ -377,6 +377,20 @@ private slots:
         QVERIFY(again.window()->findChildren<QCheckBox*>().first()->isChecked());
     }
 
+    void cutsNoPreferenceOffWithALargeFont() {
+        Sandbox sandbox;
+        const QFont usual = QApplication::font();
+        QFont large = usual;
+        large.setPointSize(usual.pointSize() * 2);
+        QApplication::setFont(large);
+        RDTwoWindowController preferences;
+        preferences.window()->show();
+        for (const QCheckBox* box : preferences.window()->findChildren<QCheckBox*>()) {
+            QVERIFY(box->width() >= box->fontMetrics().horizontalAdvance(box->text()));
+        }
+        QApplication::setFont(usual);
+    }
+
     void callsOnlyObserversThatAreThere() {
         struct Counter : QObject {
             void note(const Notification&) { ++calls; }
