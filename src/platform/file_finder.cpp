@@ -28,10 +28,14 @@ bool FileFinder::exists(const QString& path) {
     if (slash == std::string_view::npos || whole.size() >= PATH_MAX) {
         return fileExists(path);
     }
-    const std::string place(whole.substr(0, slash + 1));
-    Folder& folder = folders_[place];
+    // The next question is mostly about the same folder.
+    const std::string_view place = whole.substr(0, slash + 1);
+    if (last_ == nullptr || last_->first != place) {
+        last_ = &*folders_.try_emplace(std::string(place)).first;
+    }
+    auto& [name, folder] = *last_;
     if (++folder.questions == questionsWorthReading) {
-        read(folder, place);
+        read(folder, name);
     }
     return folder.known.contains(whole.substr(slash + 1)) || fileExists(path);
 }

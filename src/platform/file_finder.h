@@ -4,6 +4,7 @@
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include <QString>
 
@@ -27,5 +28,6 @@ private:
     void read(Folder& folder, const std::string& path);
 
     std::unordered_map<std::string, Folder> folders_;
+    std::pair<const std::string, Folder>* last_ = nullptr;  // one of them
     qsizetype mostNames_;
 };
