@@ -57,9 +57,11 @@ void ViewController::viewDidLoad() {
     const QString password = storedPassword();
     ui_.requirePassword->setState(password.isEmpty() ? 0 : 1);
     ui_.textScrollCiew->viewport()->setAutoFillBackground(false);
-    for (QWidget* line :
+    QPalette blackLine;
+    blackLine.setColor(QPalette::WindowText, Qt::black);
+    for (QFrame* line :
          {ui_.fileListViewRightLine, ui_.fileListViewBottomLine, ui_.itemInfomationLine}) {
-        line->setStyleSheet(QStringLiteral("background-color: black"));
+        line->setPalette(blackLine);
     }
     ui_.fileListView->setDelegate(this);
     ui_.fileListView->setCanDragDrop(canEditorItem());
@@ -166,11 +168,6 @@ void ViewController::dressWindow() {
                         .toSize()
                         .boundedTo(window_->screen()->availableSize() - QSize(40, 80)));
 
-    QFont titleFont = ui_.filleTitle->font();
-    titleFont.setBold(true);
-    titleFont.setPointSizeF(titleFont.pointSizeF() * 1.2);
-    ui_.filleTitle->setFont(titleFont);
-
     ui_.hiddenCaption->setText(mainText("L5h-mo-cYT.title"));
     ui_.visibleCaption->setText(mainText("lEi-kk-qD3.title"));
     ui_.addButton->setIcon(image("add"));
@@ -196,20 +193,7 @@ void ViewController::dressWindow() {
     ui_.sanjiao->setIconSize({12, 12});
     ui_.sanjiao->setAccessibleName(QStringLiteral("Disclosure triangle"));
     ui_.sanjiao->setAttribute(Qt::WA_TransparentForMouseEvents);
-    const QString flat = QStringLiteral(
-        "QPushButton, QToolButton { border: 1px solid transparent; border-radius: 4px;"
-        " padding: 3px; background: transparent; text-align: left; color: #14181d; }"
-        "QPushButton:focus, QToolButton:focus { border: 2px solid #015cdc; padding: 2px; }"
-        "QPushButton:pressed, QToolButton:pressed { background: rgba(0, 0, 0, 40); }");
-    for (QWidget* button : std::initializer_list<QWidget*>{ui_.dianjibutton, ui_.requirePassword,
-                                                           ui_.sanjiao, ui_.settingButton}) {
-        button->setStyleSheet(flat);
-    }
-    ui_.addButton->setStyleSheet(QStringLiteral(
-        "QToolButton { border: 1px solid #8a929c; border-radius: 5px; padding: 3px;"
-        " background: #f4f5f7; }"
-        "QToolButton:hover { background: #ffffff; } QToolButton:pressed { background: #d5d9de; }"
-        "QToolButton:focus { border: 2px solid #015cdc; padding: 2px; }"));
+    ui_.addButton->setFramed(true);
 }
 
 void ViewController::connectControls() {

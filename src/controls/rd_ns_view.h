@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QPixmap>
 #include <QWidget>
 
 /// A plain backdrop: a flat colour with a fine grey grain laid over it.
@@ -23,6 +24,10 @@ public:
     /// The tile in use, one grey byte a pixel.
     const QImage& noisePattern() const { return noisePattern_; }
 
+    /// The tile of grain 0.035, made by whoever asks first, on any thread and without an
+    /// application object.
+    static const QImage& usualNoisePattern();
+
     /// A grey tile of noise: for each pixel, first row first, the next number of the standard
     /// library's generator seeded with 124, modulo 256, times `factor` in single precision,
     /// truncated. Every tile is the same sequence. A null image when either side is not positive.
@@ -32,7 +37,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// A tile as it is painted: the grain over the colour.
+    const QPixmap& ground();
+
     QImage noisePattern_;
+    QPixmap ground_;
     QColor backgroundColor_;
     float grain_ = 0.0F;
 };

@@ -35,29 +35,46 @@ QString dateText(const QDateTime& date) {
 }  // namespace
 
 InformationPane::InformationPane(const Ui::Main& outlets)
-    : outlets_(outlets), icon_(outlets.fileIconView, [this] { showIcon(); }) {}
+    : outlets_(outlets), lookup_(outlets.fileIconView, [this] { showLookedUp(); }) {}
 
 void InformationPane::showItem(const ItemRecord& record) {
     const QString path = record.filePath();
     path_ = path;
-    icon_.request();
+    lookup_.request();
+    dressTitle();
     const auto attributes = attributesOfItem(path);
     outlets_.filleTitle->setText(record.fileTitle());
-    outlets_.kinDescLabel->setText(Workspace::shared().typeOfFile(path));
+    // The first question for a type reads the system's list of types: not before the first paint.
+    outlets_.kinDescLabel->setText(typesAreRead_ ? Workspace::shared().typeOfFile(path)
+                                                 : QString());
     outlets_.whereDescLabel->setText(path);
     outlets_.sizeDescLabel->setText(sizeText(attributes ? attributes->size : 0));
     outlets_.createdDescLabel->setText(attributes ? dateText(attributes->created) : QString());
     outlets_.modifiedDescLabel->setText(attributes ? dateText(attributes->modified) : QString());
 }
 
-void InformationPane::showIcon() {
+void InformationPane::dressTitle() {
+    // An empty list shows no title, and a font that is not used need not be loaded at the start.
+    QFont font = outlets_.filleTitle->font();
+    if (!font.bold()) {
+        font.setBold(true);
+        font.setPointSizeF(font.pointSizeF() * 1.2);
+        outlets_.filleTitle->setFont(font);
+    }
+}
+
+void InformationPane::showLookedUp() {
+    if (!typesAreRead_) {
+        typesAreRead_ = true;
+        outlets_.kinDescLabel->setText(Workspace::shared().typeOfFile(path_));
+    }
     const QIcon icon = Workspace::shared().iconForFile(path_);
     outlets_.fileIconView->setPixmap(
         icon.pixmap(QSize(iconSide, iconSide), outlets_.fileIconView->devicePixelRatioF()));
 }
 
 void InformationPane::clear() {
-    icon_.cancel();
+    lookup_.cancel();
     outlets_.fileIconView->clear();
     for (QLabel* label :
          {static_cast<QLabel*>(outlets_.filleTitle), static_cast<QLabel*>(outlets_.kinDescLabel),

@@ -18,7 +18,8 @@ public:
     explicit InformationPane(const Ui::Main& outlets);
 
     /// Fills the pane with what is known of the record's item. Of an item that no longer exists
-    /// type and dates stay empty and the size reads zero. The icon follows after the texts.
+    /// type and dates stay empty and the size reads zero. The icon follows after the texts,
+    /// and so does the first kind of all.
     void showItem(const ItemRecord& record);
     void clear();
 
@@ -26,9 +27,11 @@ public:
     void setLabelsHidden(bool hidden);
 
 private:
-    void showIcon();
+    void dressTitle();
+    void showLookedUp();
 
     const Ui::Main& outlets_;
     QString path_;
-    AfterPaint icon_;
+    AfterPaint lookup_;
+    bool typesAreRead_ = false;
 };

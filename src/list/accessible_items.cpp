@@ -3,8 +3,8 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QHash>
-#include <QToolButton>
 
+#include "controls/pane_button.h"
 #include "list/drag_drop_table_view.h"
 
 namespace {
@@ -123,12 +123,12 @@ public:
                 return entry.key();
             }
         }
-        const auto button = shownButtons().indexOf(qobject_cast<QToolButton*>(child->object()));
+        const auto button = shownButtons().indexOf(qobject_cast<PaneButton*>(child->object()));
         return button < 0 ? -1 : rowCount() + static_cast<int>(button);
     }
     QAccessibleInterface* childAt(int x, int y) const override {
         const QPoint inView = table()->viewport()->mapFromGlobal(QPoint(x, y));
-        for (QToolButton* button : shownButtons()) {
+        for (PaneButton* button : shownButtons()) {
             if (button->geometry().contains(inView)) {
                 return QAccessible::queryAccessibleInterface(button);
             }
@@ -152,9 +152,9 @@ public:
 
 private:
     DragDropTableView* table() const { return static_cast<DragDropTableView*>(object()); }
-    QList<QToolButton*> shownButtons() const {
-        QList<QToolButton*> shown;
-        for (QToolButton* button : {table()->checkButton(), table()->deletedButton()}) {
+    QList<PaneButton*> shownButtons() const {
+        QList<PaneButton*> shown;
+        for (PaneButton* button : {table()->checkButton(), table()->deletedButton()}) {
             if (button->isVisible()) {
                 shown << button;
             }

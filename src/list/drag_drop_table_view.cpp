@@ -9,8 +9,8 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTimer>
-#include <QToolButton>
 
+#include "controls/pane_button.h"
 #include "list/accessible_items.h"
 #include "platform/bundle.h"
 #include "platform/notification_center.h"
@@ -113,15 +113,12 @@ DragDropTableView::~DragDropTableView() = default;
 
 void DragDropTableView::makeHoverButtons() {
     const auto make = [this](const char* imageKey, const char* name) {
-        auto* button = new QToolButton(viewport());
+        auto* button = new PaneButton(viewport());
         button->setObjectName(QLatin1String(name));
         button->setIcon(Bundle::imageNamed(
             Bundle::localizedString(QLatin1String(imageKey), QStringLiteral("Main"))));
         button->setIconSize({20, 20});
-        button->setAutoRaise(true);
-        button->setStyleSheet(QStringLiteral("QToolButton { border: none; padding: 0; }"));
         button->setFocusPolicy(Qt::NoFocus);
-        button->setCursor(Qt::ArrowCursor);
         button->hide();
         return button;
     };
@@ -130,11 +127,11 @@ void DragDropTableView::makeHoverButtons() {
     deletedButton_ = make("removeTitle", "deletedButton");
     deletedButton_->setToolTip(tr("Remove from the list"));
     // A reload in answer to the press makes fresh cells: hold this one until it is through.
-    connect(checkButton_, &QToolButton::clicked, this, [this] {
+    connect(checkButton_, &PaneButton::clicked, this, [this] {
         const auto cell = cellForRow(hoveredRow_);
         cell->searchFilePath();
     });
-    connect(deletedButton_, &QToolButton::clicked, this, [this] {
+    connect(deletedButton_, &PaneButton::clicked, this, [this] {
         const auto cell = cellForRow(hoveredRow_);
         cell->delatedFilePath();
     });

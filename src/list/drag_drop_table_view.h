@@ -10,7 +10,7 @@
 #include "state/item_list.h"
 
 class QDragEnterEvent;
-class QToolButton;
+class PaneButton;
 struct Notification;
 class TableRowsModel;
 
@@ -79,8 +79,8 @@ public:
     void wantIcon(int row);
     /// The cell of a row in view, made when it is first asked for.
     std::shared_ptr<ListCell> cellForRow(int row) const;
-    QToolButton* checkButton() const { return checkButton_; }
-    QToolButton* deletedButton() const { return deletedButton_; }
+    PaneButton* checkButton() const { return checkButton_; }
+    PaneButton* deletedButton() const { return deletedButton_; }
 
     // What a table that comes from an interface file does; the list view makes its own.
     void initWithInterfaceFile();
@@ -119,8 +119,8 @@ private:
     mutable std::unordered_map<int, std::shared_ptr<ListCell>> cells_;
     QList<int> rowsWithoutIcon_;
     QTimer iconTimer_;
-    QToolButton* checkButton_;
-    QToolButton* deletedButton_;
+    PaneButton* checkButton_;
+    PaneButton* deletedButton_;
     QList<TableColumn> tableColumns_;
     int hoveredRow_ = -1;
     int clickedRow_ = -1;

@@ -2,8 +2,8 @@
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolButton>
 
+#include "controls/pane_button.h"
 #include "list/drag_drop_view.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
