@@ -7,9 +7,11 @@
 /// The program itself, watched.
 int main(int argc, char** argv) {
     Log::install();
-    HeadStart headStart;
+    HeadStart headStart(&prepareAhead);
     Application application(argc, argv);
-    headStart.finish();
+    headStart.applicationIsThere();
     const FirstPaint firstPaint(QCoreApplication::arguments());
-    return launch(application);
+    const int status = launch(application);
+    headStart.finish();
+    return status;
 }

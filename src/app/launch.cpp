@@ -8,8 +8,10 @@
 #include "app/rd_window_controller.h"
 #include "app/view_controller.h"
 #include "controls/accessible_buttons.h"
+#include "controls/rd_ns_view.h"
 #include "controls/velmora_style.h"
 #include "list/accessible_items.h"
+#include "platform/after_paint.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
 #include "platform/log.h"
@@ -20,6 +22,8 @@
 #include "ui_Main.h"
 
 namespace {
+
+constexpr int latestAfterwards = 1000;  // milliseconds
 
 void bringForward(QMainWindow& window, const QByteArray& token) {
     if (!token.isEmpty()) {
@@ -39,13 +43,16 @@ void prepare() {
     QApplication::setDesktopFileName(QStringLiteral("com.velmora.Velmora"));
     QApplication::setStyle(new VelmoraStyle);
     Bundle::loadTranslations();
-    QApplication::setWindowIcon(Bundle::imageNamed(QStringLiteral("velmora")));
     Shell::setCompanionsFolder(Shell::defaultCompanionsFolder());
     installAccessibleButtons();
     installAccessibleItems();
 }
 
 }  // namespace
+
+void prepareAhead() {
+    RDNSView::usualNoisePattern();
+}
 
 int launch(Application& application) {
     prepare();
@@ -78,8 +85,16 @@ int launch(Application& application) {
         [&defaults] { defaults.synchronize(); }, Qt::DirectConnection);
     QObject::connect(&instance, &SingleInstance::activationRequested, &window,
                      [&window](const QByteArray& token) { bringForward(window, token); });
-    // Nobody waits for it before the window is there.
-    QTimer::singleShot(0, &instance, &SingleInstance::listen);
+    // What nobody waits for before the window is there. One that starts out of sight has it later.
+    QTimer afterwards;
+    afterwards.setSingleShot(true);
+    QObject::connect(&afterwards, &QTimer::timeout, &instance, [&instance] {
+        QApplication::setWindowIcon(Bundle::imageNamed(QStringLiteral("velmora")));
+        instance.listen();
+    });
+    afterwards.start(latestAfterwards);
+    AfterPaint firstPaint(&window, [&afterwards] { afterwards.start(0); });
+    firstPaint.request();
     const int status = QApplication::exec();
     defaults.synchronize();
     return status;

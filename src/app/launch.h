@@ -2,6 +2,10 @@
 
 class Application;
 
+/// What the first window needs and what can be made ready without the application object, on any
+/// thread. Left out, it is made when it is needed.
+void prepareAhead();
+
 /// Builds the program on the application object, shows the main window and runs the event loop;
 /// returns the exit status. A second start on the same store only brings the first one forward.
 int launch(Application& application);

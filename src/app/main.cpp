@@ -5,8 +5,10 @@
 
 int main(int argc, char** argv) {
     Log::install();
-    HeadStart headStart;
+    HeadStart headStart(&prepareAhead);
     Application application(argc, argv);
+    headStart.applicationIsThere();
+    const int status = launch(application);
     headStart.finish();
-    return launch(application);
+    return status;
 }

@@ -1,6 +1,12 @@
 #include "platform/head_start.h"
 
 // The system keeps its fonts ready by itself.
-HeadStart::HeadStart() = default;
+class HeadStart::Work final {};
+
+HeadStart::HeadStart(const std::function<void()>& /*preparation*/) {}
+
+HeadStart::~HeadStart() = default;
+
+void HeadStart::applicationIsThere() {}
 
 void HeadStart::finish() {}
