@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
         list->addItem(QStringLiteral("Item"));
     }
     window.setCentralWidget(list);
-    window.resize(780, 540);
+    window.resize(840, 540);  // as large as the program's
     window.show();
     return QApplication::exec();
 }

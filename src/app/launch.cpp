@@ -51,7 +51,7 @@ void prepare() {
 }  // namespace
 
 void prepareAhead() {
-    RDNSView::usualNoisePattern();
+    RDNSView::prepareUsualGround();
 }
 
 int launch(Application& application) {

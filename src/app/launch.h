@@ -2,8 +2,8 @@
 
 class Application;
 
-/// What the first window needs and what can be made ready without the application object, on any
-/// thread. Left out, it is made when it is needed.
+/// What the first paint needs and what can be made ready on any thread. Left out, it is made when
+/// it is needed.
 void prepareAhead();
 
 /// Builds the program on the application object, shows the main window and runs the event loop;

@@ -2,7 +2,6 @@
 
 #include <QColor>
 #include <QImage>
-#include <QPixmap>
 #include <QWidget>
 
 /// A plain backdrop: a flat colour with a fine grey grain laid over it.
@@ -22,11 +21,11 @@ public:
     QColor backgroundColor() const { return backgroundColor_; }
 
     /// The tile in use, one grey byte a pixel.
-    const QImage& noisePattern() const { return noisePattern_; }
+    const QImage& noisePattern() const;
 
-    /// The tile of grain 0.035, made by whoever asks first, on any thread and without an
-    /// application object.
-    static const QImage& usualNoisePattern();
+    /// Makes what every new view shows, which the first paint would do otherwise. On any thread,
+    /// and without an application object.
+    static void prepareUsualGround();
 
     /// A grey tile of noise: for each pixel, first row first, the next number of the standard
     /// library's generator seeded with 124, modulo 256, times `factor` in single precision,
@@ -37,11 +36,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    /// A tile as it is painted: the grain over the colour.
-    const QPixmap& ground();
-
-    QImage noisePattern_;
-    QPixmap ground_;
+    QImage noisePattern_;  // null: the usual one
+    QImage ground_;        // a tile as it is painted, made when it is needed
     QColor backgroundColor_;
     float grain_ = 0.0F;
 };

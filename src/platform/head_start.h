@@ -8,9 +8,8 @@
 /// fonts are listed while the first controls are made. It has to outlive the application object.
 class HeadStart final {
 public:
-    /// `preparation`: what else the start needs and what can be done without the application
-    /// object, on that thread and beside the main one. It may be left out: do it where it is needed
-    /// then.
+    /// `preparation`: what else the start needs and any thread can do. It may be left out: do it
+    /// where it is needed then.
     explicit HeadStart(const std::function<void()>& preparation);
     ~HeadStart();
 

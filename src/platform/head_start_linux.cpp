@@ -68,10 +68,10 @@ private:
         pthread_setschedparam(pthread_self(), SCHED_IDLE, &none);
         FcInit();
         configured_.release();
-        preparation();
         application_.acquire();
         if (ahead_) {
             QFontDatabase::families();
+            preparation();
         }
     }
 
