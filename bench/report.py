@@ -48,17 +48,20 @@ def plot(growth, folder):
     print("\n" + aligned(table))
 
 
-def record(results, docs):
+ALL = {name: name for name in ("table", "beside", "growth")}
+
+
+def record(results, docs, marks=ALL):
     """Puts the tables of this run between their marks in docs/speed.md, and the picture beside."""
     document = docs / "speed.md"
     text = document.read_text()
-    for name in ("table", "beside", "growth"):
+    for name, place in marks.items():
         part = results / f"{name}.md"
         if part.exists():
-            mark = f"<!-- {name} -->"
+            mark = f"<!-- {place} -->"
             text = re.sub(f"{mark}.*?{mark}",
                           lambda _, part=part, mark=mark: f"{mark}\n{part.read_text()}{mark}",
                           text, flags=re.DOTALL)
     document.write_text(text)
-    if (results / "growth.png").exists():
+    if "growth" in marks and (results / "growth.png").exists():
         shutil.copy(results / "growth.png", docs / "images" / "growth.png")

@@ -11,15 +11,21 @@ namespace {
 
 /// A change copies one block and the table of blocks: at 100,000 records some hundred each.
 constexpr qsizetype blockSize = 256;
+constexpr std::size_t fetchedAhead = 12;
+
+struct SortEntry {
+    QStringView title;
+    const ItemRecord* record;
+};
 
 /// What a sort compares. The first characters in which titles of the list differ lie in the key
 /// itself, so that few comparisons have to fetch the strings.
 struct SortKey {
     quint64 lead;
-    const QStringView* title;
+    const SortEntry* entry;
 
     bool operator<(const SortKey& other) const {
-        return lead != other.lead ? lead < other.lead : *title < *other.title;
+        return lead != other.lead ? lead < other.lead : entry->title < other.entry->title;
     }
 };
 
@@ -38,20 +44,47 @@ quint64 leadFrom(qsizetype start, QStringView title, bool narrow) {
     return lead;
 }
 
-std::vector<SortKey> sortKeys(const std::vector<QStringView>& titles) {
-    QStringView prefix = titles.empty() ? QStringView() : titles.front();
-    char16_t allBits = 0;
-    for (const QStringView title : titles) {
-        prefix.truncate(commonPrefixLength(prefix, title));
-        for (const QChar character : title)
-            allBits |= character.unicode();
+/// The keys of a list, read in one walk: titles lie all over the memory, and to fetch them is most
+/// of the work. What they have in common is known after the first few; these are done again.
+class SortKeys {
+public:
+    explicit SortKeys(std::size_t size) {
+        entries_.reserve(size);
+        keys_.reserve(size);
     }
-    std::vector<SortKey> keys;
-    keys.reserve(titles.size());
-    for (const QStringView& title : titles)
-        keys.push_back({leadFrom(prefix.size(), title, allBits < 0x100), &title});
-    return keys;
-}
+
+    void append(const ItemRecord& record) {
+        const QStringView title = record.fileTitleView();
+        learn(title);
+        entries_.push_back({title, &record});
+        keys_.push_back({leadFrom(prefix_.size(), title, narrow_), &entries_.back()});
+    }
+    std::vector<SortKey>& finish() {
+        for (std::size_t i = 0; i < settled_; ++i)
+            keys_[i].lead = leadFrom(prefix_.size(), entries_[i].title, narrow_);
+        return keys_;
+    }
+
+private:
+    void learn(QStringView title) {
+        char16_t bits = 0;
+        for (const QChar character : title)
+            bits |= character.unicode();
+        const qsizetype common =
+            entries_.empty() ? title.size() : commonPrefixLength(prefix_, title);
+        if (common == prefix_.size() && (!narrow_ || bits < 0x100))
+            return;
+        prefix_ = title.first(common);
+        narrow_ = narrow_ && bits < 0x100;
+        settled_ = entries_.size();
+    }
+
+    std::vector<SortEntry> entries_;
+    std::vector<SortKey> keys_;
+    QStringView prefix_;
+    bool narrow_ = true;
+    std::size_t settled_ = 0;  // keys before this one need another lead
+};
 
 }  // namespace
 
@@ -83,13 +116,27 @@ const ItemRecord& ItemList::at(qsizetype index) const {
 }
 
 void ItemList::append(const ItemRecord& record) {
+    roomForOne().append(record);
+}
+
+void ItemList::append(ItemRecord&& record) {
+    roomForOne().append(std::move(record));
+}
+
+QList<ItemRecord>& ItemList::roomForOne() {
     if (isEmpty() || blocks_.last().records.size() >= blockSize) {
         Block block{size(), {}};
         // Grown step by step, a block would end up with far more room than it needs.
         block.records.reserve(blockSize);
         blocks_.append(std::move(block));
     }
-    blocks_.last().records.append(record);
+    return blocks_.last().records;
+}
+
+bool ItemList::isShared() const {
+    return !blocks_.isDetached() ||
+           !std::all_of(blocks_.cbegin(), blocks_.cend(),
+                        [](const Block& block) { return block.records.isDetached(); });
 }
 
 void ItemList::replace(qsizetype index, const ItemRecord& record) {
@@ -126,24 +173,35 @@ void ItemList::removeIf(const std::function<bool(const ItemRecord&)>& predicate)
 }
 
 void ItemList::sortByTitle(bool ascending) {
-    std::vector<QStringView> titles;
+    const bool shared = isShared();
     std::vector<const ItemRecord*> records;
-    titles.reserve(static_cast<std::size_t>(size()));
     records.reserve(static_cast<std::size_t>(size()));
     for (const Block& block : std::as_const(blocks_)) {
-        for (const ItemRecord& record : block.records) {
-            titles.push_back(record.fileTitleView());
+        for (const ItemRecord& record : block.records)
             records.push_back(&record);
-        }
     }
-    std::vector<SortKey> keys = sortKeys(titles);
+    SortKeys all(records.size());
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        records[std::min(i + fetchedAhead, records.size() - 1)]->fetchTitle();
+        all.append(*records[i]);
+    }
+    std::vector<SortKey>& keys = all.finish();
     if (ascending)
         std::sort(keys.begin(), keys.end());
     else
         std::sort(keys.rbegin(), keys.rend());
     ItemList sorted;
-    for (const SortKey& key : keys)
-        sorted.append(*records[static_cast<std::size_t>(key.title - titles.data())]);
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        __builtin_prefetch(keys[std::min(i + 2 * fetchedAhead, keys.size() - 1)].entry->record);
+        const ItemRecord& record = *keys[i].entry->record;
+        if (shared) {
+            keys[std::min(i + fetchedAhead, keys.size() - 1)].entry->record->fetchForCopy();
+            sorted.append(record);
+        } else {
+            // Nobody else has the list: its records need not be touched any further.
+            sorted.append(std::move(const_cast<ItemRecord&>(record)));
+        }
+    }
     *this = std::move(sorted);
 }
 

@@ -24,6 +24,7 @@ public:
     const ItemRecord& at(qsizetype index) const;
 
     void append(const ItemRecord& record);
+    void append(ItemRecord&& record);
     void replace(qsizetype index, const ItemRecord& record);
     void removeAt(qsizetype index);
     /// Removes every record for which the predicate answers true; keeps the order of the rest.
@@ -43,6 +44,8 @@ private:
     };
 
     qsizetype blockOf(qsizetype index) const;
+    QList<ItemRecord>& roomForOne();
+    bool isShared() const;
     void renumber();
 
     QList<Block> blocks_;  // none of them empty

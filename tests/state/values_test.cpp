@@ -251,8 +251,13 @@ void ValuesTest::listSortsByTitle() {
     list.append(ItemRecord());
     titles.append(QString());
     std::sort(titles.begin(), titles.end());
-    for (const bool ascending : {true, false}) {
+    // The second time round others hold the list, which must not notice.
+    for (const auto& [ascending, shared] : {std::pair(true, false), std::pair(false, false),
+                                            std::pair(true, true), std::pair(false, true)}) {
+        const ItemList held = shared ? list : ItemList();
+        const QVariantList before = held.toVariantList();
         list.sortByTitle(ascending);
+        QVERIFY(held.toVariantList() == before);
         QStringList sorted;
         list.forEach([&sorted](const ItemRecord& record) { sorted.append(record.fileTitle()); });
         if (!ascending)
