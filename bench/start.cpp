@@ -8,6 +8,7 @@
 int main(int argc, char** argv) {
     Log::install();
     HeadStart headStart(&prepareAhead);
+    chooseStyle();
     Application application(argc, argv);
     headStart.applicationIsThere();
     const FirstPaint firstPaint(QCoreApplication::arguments());

@@ -41,7 +41,13 @@ void prepare() {
     QApplication::setApplicationDisplayName(QStringLiteral("Velmora"));
     QApplication::setApplicationVersion(QStringLiteral(VELMORA_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("com.velmora.Velmora"));
-    QApplication::setStyle(new VelmoraStyle);
+    // The menus are in the window, except where the system has one bar for all windows.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar,
+                                   QGuiApplication::platformName() != QLatin1String("cocoa"));
+    // A style that the user has named took the place of ours, which goes around it then.
+    if (qobject_cast<VelmoraStyle*>(QApplication::style()) == nullptr) {
+        chooseStyle();
+    }
     Bundle::loadTranslations();
     Shell::setCompanionsFolder(Shell::defaultCompanionsFolder());
     installAccessibleButtons();
@@ -49,6 +55,10 @@ void prepare() {
 }
 
 }  // namespace
+
+void chooseStyle() {
+    QApplication::setStyle(new VelmoraStyle);
+}
 
 void prepareAhead() {
     RDNSView::prepareUsualGround();

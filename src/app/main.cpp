@@ -6,6 +6,7 @@
 int main(int argc, char** argv) {
     Log::install();
     HeadStart headStart(&prepareAhead);
+    chooseStyle();
     Application application(argc, argv);
     headStart.applicationIsThere();
     const int status = launch(application);
