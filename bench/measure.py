@@ -1,5 +1,6 @@
 """Measures Velmora against the floors of its table, figure and floor in turns."""
 
+import contextlib
 import pathlib
 import statistics
 import subprocess
@@ -192,6 +193,9 @@ class Bench:
         return own, resident
 
     def memory(self):
+        strangers = qt_programs()
+        if strangers:
+            print(f"Their own memory reads too low: {', '.join(strangers)} shares Qt's pages.")
         rounds = []
         paths = self.place.items(100_000)
         text = sum(2 * len(str(path).encode()) - len(str(path.parent).encode()) for path in paths)
@@ -298,6 +302,16 @@ class Bench:
                                check=True, close_fds=False)
                 took.append((time.perf_counter() - begin) * 1000)
         return statistics.median(took)
+
+
+def qt_programs():
+    """The programs that have Qt's libraries in their memory now."""
+    found = set()
+    for process in pathlib.Path("/proc").glob("[0-9]*"):
+        with contextlib.suppress(OSError):
+            if "libQt6Core" in (process / "maps").read_text():
+                found.add(f"{(process / 'comm').read_text().strip()} ({process.name})")
+    return sorted(found)
 
 
 def settled(pid):

@@ -14,6 +14,7 @@
 #include "platform/after_paint.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
+#include "platform/head_start.h"
 #include "platform/log.h"
 #include "platform/shell.h"
 #include "platform/single_instance.h"
@@ -46,7 +47,7 @@ void prepare() {
                                    QGuiApplication::platformName() != QLatin1String("cocoa"));
     // A style that the user has named took the place of ours, which goes around it then.
     if (qobject_cast<VelmoraStyle*>(QApplication::style()) == nullptr) {
-        chooseStyle();
+        QApplication::setStyle(new VelmoraStyle);
     }
     Bundle::loadTranslations();
     Shell::setCompanionsFolder(Shell::defaultCompanionsFolder());
@@ -54,17 +55,7 @@ void prepare() {
     installAccessibleItems();
 }
 
-}  // namespace
-
-void chooseStyle() {
-    QApplication::setStyle(new VelmoraStyle);
-}
-
-void prepareAhead() {
-    RDNSView::prepareUsualGround();
-}
-
-int launch(Application& application) {
+int run(Application& application) {
     prepare();
     SingleInstance instance(UserDefaults::fileBeside(QStringLiteral("instance.lock")));
     if (!instance.isFirst()) {
@@ -107,5 +98,22 @@ int launch(Application& application) {
     firstPaint.request();
     const int status = QApplication::exec();
     defaults.synchronize();
+    return status;
+}
+
+}  // namespace
+
+int launch(int argc, char** argv, const std::function<void()>& watch) {
+    Log::install();
+    HeadStart headStart(&RDNSView::prepareUsualGround);
+    // Before the application object, which would make the desktop's own style otherwise.
+    QApplication::setStyle(new VelmoraStyle);
+    Application application(argc, argv);
+    headStart.applicationIsThere();
+    if (watch) {
+        watch();
+    }
+    const int status = run(application);
+    headStart.finish();
     return status;
 }

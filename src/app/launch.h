@@ -1,15 +1,8 @@
 #pragma once
 
-class Application;
+#include <functional>
 
-/// What the first paint needs and what can be made ready on any thread. Left out, it is made when
-/// it is needed.
-void prepareAhead();
-
-/// Sets the program's style. Call it before the application object is made, which makes the
-/// desktop's own otherwise, for nothing.
-void chooseStyle();
-
-/// Builds the program on the application object, shows the main window and runs the event loop;
-/// returns the exit status. A second start on the same store only brings the first one forward.
-int launch(Application& application);
+/// The program from its start to its end: makes the application object, shows the main window and
+/// runs the event loop; returns the exit status. A second start on the same store only brings the
+/// first one forward. `watch` is called once the application object is there.
+int launch(int argc, char** argv, const std::function<void()>& watch = {});

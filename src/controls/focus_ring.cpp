@@ -8,7 +8,7 @@ void drawFocusRing(QPainter& painter, const QRectF& control, qreal cornerRadius)
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(Qt::white, 1));
     painter.drawRoundedRect(control.adjusted(-0.5, -0.5, 0.5, 0.5), cornerRadius, cornerRadius);
-    painter.setPen(QPen(QColor(1, 92, 220), 2));
+    painter.setPen(QPen(focusColor, 2));
     painter.drawRoundedRect(control.adjusted(-2, -2, 2, 2), cornerRadius + 2, cornerRadius + 2);
     painter.restore();
 }

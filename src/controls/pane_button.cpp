@@ -1,11 +1,13 @@
 #include "controls/pane_button.h"
 
 #include <QPainter>
+#include <QStyle>
+
+#include "controls/focus_ring.h"
 
 namespace {
 
 constexpr qreal cornerRadius = 4.0;
-constexpr QColor focusColor{1, 92, 220};
 constexpr QColor pressedShade{0, 0, 0, 40};
 constexpr QColor frameColor{138, 146, 156};
 constexpr QColor framedGround{244, 245, 247};
@@ -55,10 +57,8 @@ void PaneButton::paintEvent(QPaintEvent* /*event*/) {
     } else {
         drawPaneButtonFrame(painter, rect(), isDown(), hasFocus());
     }
-    icon().paint(&painter,
-                 QRect(QPoint(), iconSize())
-                     .translated(QPoint((width() - iconSize().width()) / 2,
-                                        (height() - iconSize().height()) / 2)),
-                 Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled,
+    const QRect picture =
+        QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, iconSize(), rect());
+    icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled,
                  isChecked() ? QIcon::On : QIcon::Off);
 }

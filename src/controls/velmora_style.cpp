@@ -18,11 +18,11 @@ void drawFlatButton(QPainter& painter, const QStyleOptionButton& button) {
     const bool enabled = button.state.testFlag(QStyle::State_Enabled);
     drawPaneButtonFrame(painter, button.rect, button.state.testFlag(QStyle::State_Sunken),
                         button.state.testFlag(QStyle::State_HasFocus));
-    QRect contents = button.rect.adjusted(paneButtonMargin, paneButtonMargin, -paneButtonMargin,
-                                          -paneButtonMargin);
+    const QRect contents = button.rect.adjusted(paneButtonMargin, paneButtonMargin,
+                                                -paneButtonMargin, -paneButtonMargin);
     if (!button.icon.isNull()) {
-        const QRect picture = QStyle::alignedRect(
-            button.direction, Qt::AlignLeft | Qt::AlignVCenter, button.iconSize, contents);
+        const QRect picture =
+            QStyle::alignedRect(button.direction, Qt::AlignCenter, button.iconSize, contents);
         button.icon.paint(&painter, picture, Qt::AlignCenter,
                           enabled ? QIcon::Normal : QIcon::Disabled,
                           button.state.testFlag(QStyle::State_On) ? QIcon::On : QIcon::Off);

@@ -2,8 +2,8 @@
 
 #include <QProxyStyle>
 
-/// The desktop's own style, but for two things: flat push buttons lie in a pane as a text or a
-/// picture at its left edge, and the mark of a menu bar too narrow for its menus is a picture of
+/// The desktop's own style, but for two things: flat push buttons lie in a pane as a text at its
+/// left edge, or as a picture, and the mark of a menu bar too narrow for its menus is a picture of
 /// ours, read when it is shown. (The style's own would be read from a file at every start.)
 class VelmoraStyle final : public QProxyStyle {
     Q_OBJECT

@@ -55,8 +55,8 @@ void InformationPane::showItem(const ItemRecord& record) {
 
 void InformationPane::dressTitle() {
     // An empty list shows no title, and a font that is not used need not be loaded at the start.
-    QFont font = outlets_.filleTitle->font();
-    if (!font.bold()) {
+    if (!outlets_.filleTitle->testAttribute(Qt::WA_SetFont)) {
+        QFont font = outlets_.filleTitle->font();
         font.setBold(true);
         font.setPointSizeF(font.pointSizeF() * 1.2);
         outlets_.filleTitle->setFont(font);

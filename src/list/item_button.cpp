@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "controls/focus_ring.h"
 #include "platform/bundle.h"
 
 namespace {
@@ -89,7 +90,7 @@ void ItemButton::paintEvent(QPaintEvent* /*event*/) {
             .paint(&painter, arrow);
     }
     if (hasFocus()) {
-        painter.setPen(QPen(QColor(1, 92, 220), 2));
+        painter.setPen(QPen(focusColor, 2));
         painter.drawRect(rect().adjusted(2, 2, -2, -2));
     }
 }

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <functional>
-#include <memory>
+#include <semaphore>
+#include <thread>
 
 /// What every start needs and what nobody must wait for in a row, on a thread of its own: the
 /// system's font configuration is read while the application object finds its display, and the
@@ -12,6 +13,8 @@ public:
     /// where it is needed then.
     explicit HeadStart(const std::function<void()>& preparation);
     ~HeadStart();
+    HeadStart(const HeadStart&) = delete;
+    HeadStart& operator=(const HeadStart&) = delete;
 
     /// Call it when the application object is there, before the first text is measured. Returns
     /// when the font configuration is read, by whichever thread.
@@ -20,6 +23,10 @@ public:
     void finish();
 
 private:
-    class Work;
-    std::unique_ptr<Work> work_;
+    void run(const std::function<void()>& preparation);
+
+    std::binary_semaphore configured_{0};
+    std::counting_semaphore<2> application_{0};
+    bool ahead_ = false;  // whether the thread still is, once the application object is there
+    std::thread thread_;
 };
