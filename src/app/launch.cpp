@@ -8,13 +8,11 @@
 #include "app/rd_window_controller.h"
 #include "app/view_controller.h"
 #include "controls/accessible_buttons.h"
-#include "controls/rd_ns_view.h"
 #include "controls/velmora_style.h"
 #include "list/accessible_items.h"
 #include "platform/after_paint.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
-#include "platform/head_start.h"
 #include "platform/log.h"
 #include "platform/shell.h"
 #include "platform/single_instance.h"
@@ -105,15 +103,11 @@ int run(Application& application) {
 
 int launch(int argc, char** argv, const std::function<void()>& watch) {
     Log::install();
-    HeadStart headStart(&RDNSView::prepareUsualGround);
     // Before the application object, which would make the desktop's own style otherwise.
     QApplication::setStyle(new VelmoraStyle);
     Application application(argc, argv);
-    headStart.applicationIsThere();
     if (watch) {
         watch();
     }
-    const int status = run(application);
-    headStart.finish();
-    return status;
+    return run(application);
 }
