@@ -21,11 +21,7 @@ public:
     QColor backgroundColor() const { return backgroundColor_; }
 
     /// The tile in use, one grey byte a pixel.
-    const QImage& noisePattern() const;
-
-    /// Makes what every new view shows, which the first paint would do otherwise. On any thread,
-    /// and without an application object.
-    static void prepareUsualGround();
+    const QImage& noisePattern() const { return noisePattern_; }
 
     /// A grey tile of noise: for each pixel, first row first, the next number of the standard
     /// library's generator seeded with 124, modulo 256, times `factor` in single precision,
@@ -36,8 +32,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QImage noisePattern_;  // null: the usual one
-    QImage ground_;        // a tile as it is painted, made when it is needed
-    QColor backgroundColor_;
+    QImage noisePattern_;
+    QColor backgroundColor_{185, 190, 197};
     float grain_ = 0.0F;
 };

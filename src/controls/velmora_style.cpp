@@ -4,7 +4,6 @@
 #include <QStyleOptionButton>
 
 #include "controls/pane_button.h"
-#include "platform/bundle.h"
 
 namespace {
 
@@ -53,13 +52,4 @@ QSize VelmoraStyle::sizeFromContents(ContentsType type, const QStyleOption* opti
         return size + QSize(2 * paneButtonMargin, 2 * paneButtonMargin);
     }
     return QProxyStyle::sizeFromContents(type, option, size, widget);
-}
-
-QIcon VelmoraStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
-                                 const QWidget* widget) const {
-    // Reading a picture from a file loads every image format that is installed.
-    if (icon == SP_ToolBarHorizontalExtensionButton) {
-        return Bundle::imageNamed(QStringLiteral("more"));
-    }
-    return QProxyStyle::standardIcon(icon, option, widget);
 }

@@ -2,9 +2,8 @@
 
 #include <QProxyStyle>
 
-/// The desktop's own style, but for two things: flat push buttons lie in a pane as a text at its
-/// left edge, or as a picture, and the mark of a menu bar too narrow for its menus is a picture of
-/// ours, read when it is shown. (The style's own would be read from a file at every start.)
+/// The desktop's own style, but for flat push buttons: they lie in a pane as a text at its left
+/// edge, or as a picture.
 class VelmoraStyle final : public QProxyStyle {
     Q_OBJECT
 
@@ -15,6 +14,4 @@ public:
                      const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                            const QWidget* widget) const override;
-    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
-                       const QWidget* widget) const override;
 };

@@ -1,5 +1,6 @@
 #include "controls/wrap_label.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QClipboard>
@@ -10,8 +11,6 @@
 #include <QTextLayout>
 
 namespace {
-
-constexpr std::size_t mostHeights = 16;
 
 qreal layOut(QTextLayout& layout, int width, Qt::Alignment alignment) {
     QTextOption option(alignment);
@@ -38,18 +37,9 @@ WrapLabel::WrapLabel(QWidget* parent) : QLabel(parent) {
 }
 
 int WrapLabel::heightForWidth(int width) const {
-    // Layouts ask again and again for the same few widths.
-    if (measured_.text != text() || measured_.font != font() ||
-        measured_.heights.size() > mostHeights) {
-        measured_ = {text(), font(), {}};
-    }
-    const auto [height, missing] = measured_.heights.try_emplace(width);
-    if (missing) {
-        QTextLayout layout(text(), font());
-        height->second = std::max(fontMetrics().height(),
-                                  static_cast<int>(std::ceil(layOut(layout, width, alignment()))));
-    }
-    return height->second;
+    QTextLayout layout(text(), font());
+    return std::max(fontMetrics().height(),
+                    static_cast<int>(std::ceil(layOut(layout, width, alignment()))));
 }
 
 QSize WrapLabel::sizeHint() const {

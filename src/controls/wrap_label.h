@@ -1,10 +1,6 @@
 #pragma once
 
-#include <map>
-
-#include <QFont>
 #include <QLabel>
-#include <QString>
 
 /// A label for one long word, such as a path: breaks it wherever the width ends, so that nothing
 /// is cut off and its text stays exactly what was set.
@@ -23,13 +19,4 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
-
-private:
-    struct Measured {
-        QString text;
-        QFont font;
-        std::map<int, int> heights;  // by width
-    };
-
-    mutable Measured measured_;
 };

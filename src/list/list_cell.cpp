@@ -1,6 +1,6 @@
 #include "list/list_cell.h"
 
-#include <optional>
+#include <algorithm>
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -21,22 +21,12 @@ QString mainTableText(const char* key) {
     return Bundle::localizedString(QLatin1String(key), QStringLiteral("Main"));
 }
 
-// The width of the widest text. Row for row the question is the same, and the answer is remembered.
 int widest(const QFontMetrics& metrics, const QStringList& texts) {
-    struct Answer {
-        QFontMetrics metrics;
-        QStringList texts;
-        int width;
-    };
-    static std::optional<Answer> last;
-    if (!last || last->texts != texts || last->metrics != metrics) {
-        int width = 0;
-        for (const QString& text : texts) {
-            width = std::max(width, metrics.horizontalAdvance(text));
-        }
-        last = Answer{metrics, texts, width};
+    int width = 0;
+    for (const QString& text : texts) {
+        width = std::max(width, metrics.horizontalAdvance(text));
     }
-    return last->width;
+    return width;
 }
 
 }  // namespace

@@ -7,8 +7,6 @@
 #include <QLocale>
 #include <QTranslator>
 
-#include "platform/picture_engine.h"
-
 void Bundle::loadTranslations() {
     const auto install = [](const QLocale& locale, const QString& name, const QString& folder) {
         auto* translator = new QTranslator(QCoreApplication::instance());
@@ -39,7 +37,7 @@ QIcon Bundle::imageNamed(const QString& name) {
         return *known;
     }
     const QString path = QStringLiteral(":/images/%1.svg").arg(name);
-    return *icons.insert(name, QFile::exists(path) ? QIcon(new PictureEngine(name)) : QIcon());
+    return *icons.insert(name, QFile::exists(path) ? QIcon(path) : QIcon());
 }
 
 QString Bundle::pathForResource(const QString& name, const QString& type) {

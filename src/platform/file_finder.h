@@ -1,11 +1,8 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-#include <unordered_map>
-#include <unordered_set>
-#include <utility>
-
+#include <QByteArray>
+#include <QHash>
+#include <QSet>
 #include <QString>
 
 /// Answers for many paths what fileExists() answers for one. Of a folder that is asked about often
@@ -21,13 +18,11 @@ public:
 private:
     struct Folder {
         int questions = 0;
-        std::string names;  // one after the other
-        std::unordered_set<std::string_view> known;
+        QSet<QByteArray> names;  // that surely exist, once it was read
     };
 
-    void read(Folder& folder, const std::string& path);
+    QSet<QByteArray> readNames(const QByteArray& folder);
 
-    std::unordered_map<std::string, Folder> folders_;
-    std::pair<const std::string, Folder>* last_ = nullptr;  // one of them
+    QHash<QByteArray, Folder> folders_;
     qsizetype mostNames_;
 };

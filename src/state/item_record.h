@@ -40,10 +40,6 @@ public:
     QString fileTitle() const;
     /// The same without a copy; valid as long as this record is neither changed nor destroyed.
     QStringView fileTitleView() const;
-    /// Starts to fetch from memory what fileTitleView() reads, or what a copy touches. In a long
-    /// list these lie anywhere; asked for ahead, the next ones come while one is worked on.
-    void fetchTitle() const { __builtin_prefetch(path_.constData() + path_.size()); }
-    void fetchForCopy() const { __builtin_prefetch(path_.constData() - sizeof(void*)); }
     /// The stored flag in whatever form it has; invalid when absent.
     QVariant visible() const;
     /// Without effect on a value that is no dictionary.
