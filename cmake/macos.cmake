@@ -7,4 +7,4 @@ file(GLOB macos_sources CONFIGURE_DEPENDS
      ${PROJECT_SOURCE_DIR}/src/*/*_mac.cpp ${PROJECT_SOURCE_DIR}/src/*/mac_*.cpp)
 add_library(velmora_macos OBJECT ${macos_sources})
 set_target_properties(velmora_macos PROPERTIES AUTOMOC OFF)
-target_link_libraries(velmora_macos PRIVATE velmora_core velmora_flags)
+target_link_libraries(velmora_macos PRIVATE velmora_window velmora_flags)
