@@ -76,7 +76,14 @@ void raiseAttributeEvent(int folder, const char* name) {
 }
 
 const char* problemOfList(int error) {
-    return error == EISDIR ? "The .hidden beside it is not a file" : std::strerror(error);
+    switch (error) {
+        case EISDIR:
+            return "The .hidden beside it is not a file";
+        case ELOOP:
+            return "The .hidden beside it is a link that is not followed";
+        default:
+            return std::strerror(error);
+    }
 }
 
 }  // namespace

@@ -12,7 +12,9 @@
 namespace {
 
 constexpr char kCreatedMark[] = "user.velmora.created";
-constexpr unsigned kLockPatienceSeconds = 30;
+constexpr char kTemporaryMark[] = "user.velmora.temporary";
+constexpr char kOrdinaryName[] = ".hidden";
+constexpr unsigned kLockPatienceSeconds = 2;
 constexpr int kMostLinks = 40;
 
 int writeAll(int file, std::string_view text) {
@@ -41,6 +43,9 @@ void copyExtendedAttributes(int from, int to) {
     std::string value;
     for (std::size_t begin = 0; begin < names.size(); begin = names.find('\0', begin) + 1) {
         const char* name = names.data() + begin;
+        if (std::string_view(name) == kTemporaryMark) {
+            continue;
+        }
         const ssize_t length = fgetxattr(from, name, nullptr, 0);
         if (length < 0) {
             continue;
@@ -123,11 +128,15 @@ int HiddenFile::followLinks() {
     for (int links = 0;; ++links) {
         const ssize_t length = readlinkat(folder_, name_.c_str(), target, sizeof target);
         if (length < 0) {
-            return errno == EINVAL || errno == ENOENT ? 0 : errno;
+            const bool isNoLink = errno == EINVAL || errno == ENOENT;
+            // A folder may come from a stranger, who must not choose which file is written: a link
+            // leads to another such list, or nowhere.
+            return !isNoLink ? errno : linked_ && name_ != kOrdinaryName ? ELOOP : 0;
         }
         if (links == kMostLinks) {
             return ELOOP;
         }
+        linked_ = true;
         if (length == sizeof target) {
             return ENAMETOOLONG;
         }
@@ -179,7 +188,8 @@ int HiddenFile::read() {
     file_ = FileDescriptor(
         openat(folder_, name_.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file_) {
-        return errno == ENOENT ? 0 : errno;
+        const int error = linked_ ? ELOOP : 0;  // nothing is made through a link
+        return errno == ENOENT ? error : errno;
     }
     if (fstat(file_.get(), &status_) != 0) {
         return errno;
@@ -187,21 +197,24 @@ int HiddenFile::read() {
     if (!S_ISREG(status_.st_mode)) {
         return EISDIR;
     }
+    if (linked_ && status_.st_uid != geteuid()) {
+        return ELOOP;
+    }
     return lines_.read(file_.get(), static_cast<std::size_t>(status_.st_size));
 }
 
 int HiddenFile::save() {
-    if (lines_.text().empty() && mayRemove()) {
+    if (lines_.text().empty() && !linked_ && mayRemove()) {
         return unlinkat(folder_, name_.c_str(), 0) == 0 ? 0 : errno;
     }
 
-    // Under the lock one name is enough, and what a killed run left behind goes away by itself.
-    const std::string temporary =
-        locked_ ? ".hidden.velmora" : ".hidden.velmora." + std::to_string(getpid());
+    std::string temporary;
     FileDescriptor file = createTemporary(temporary);
     if (!file) {
         return errno;
     }
+    // The mark goes when the name has gone, so that a killed run leaves nothing without it.
+    const FileDescriptor marked(dup(file.get()));
     int error = fillTemporary(file.get());
     if (error == 0) {
         error = file.close();
@@ -211,6 +224,8 @@ int HiddenFile::save() {
     }
     if (error != 0) {
         unlinkat(folder_, temporary.c_str(), 0);
+    } else {
+        fremovexattr(marked.get(), kTemporaryMark);
     }
     return error;
 }
@@ -220,17 +235,40 @@ bool HiddenFile::mayRemove() const {
     return fgetxattr(file_.get(), kCreatedMark, nullptr, 0) >= 0 || errno == ENOTSUP;
 }
 
-FileDescriptor HiddenFile::createTemporary(const std::string& name) const {
+FileDescriptor HiddenFile::createTemporary(std::string& name) const {
     const mode_t mode = file_ ? status_.st_mode & 0777 : 0666;
     const auto create = [&] {
         return FileDescriptor(openat(folder_, name.c_str(),
-                                     O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
+                                     O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode));
     };
-    FileDescriptor file = create();
-    if (!file && errno == EEXIST && locked_ && unlinkat(folder_, name.c_str(), 0) == 0) {
-        return create();
+    // Under the lock one name is enough, and what a killed run left behind goes away by itself.
+    name = ".hidden.velmora";
+    FileDescriptor file = locked_ ? create() : FileDescriptor();
+    if (!file && locked_ && errno != EEXIST) {
+        return file;
+    }
+    if (!file && locked_ && isLeftBehind(name)) {
+        unlinkat(folder_, name.c_str(), 0);
+        file = create();
+    }
+    if (!file) {
+        name.append(".").append(std::to_string(getpid()));
+        file = create();
+    }
+    if (file) {
+        fsetxattr(file.get(), kTemporaryMark, "", 0, 0);
     }
     return file;
+}
+
+// A file of that name may be the user's own, unless it has the mark, or nothing in it: that is how
+// it is made.
+bool HiddenFile::isLeftBehind(const std::string& name) const {
+    const FileDescriptor file(
+        openat(folder_, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    struct stat status {};
+    return file && fstat(file.get(), &status) == 0 && S_ISREG(status.st_mode) &&
+           (status.st_size == 0 || fgetxattr(file.get(), kTemporaryMark, nullptr, 0) >= 0);
 }
 
 int HiddenFile::fillTemporary(int file) const {
