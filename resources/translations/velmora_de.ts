@@ -365,6 +365,10 @@ aus dem Dateimanager hierher ziehen</translation>
         <translation>Der Name enthält einen Zeilenumbruch, den Dateiverwaltungen nicht verstecken können.</translation>
     </message>
     <message>
+        <source>the command did not come to an end.</source>
+        <translation>Der Befehl kam zu keinem Ende.</translation>
+    </message>
+    <message>
         <source>its folder cannot be written.</source>
         <translation>In den Ordner kann nicht geschrieben werden.</translation>
     </message>

@@ -365,6 +365,10 @@ depuis votre gestionnaire de fichiers</translation>
         <translation>son nom contient un saut de ligne, que les gestionnaires de fichiers ne peuvent pas masquer.</translation>
     </message>
     <message>
+        <source>the command did not come to an end.</source>
+        <translation>la commande ne s’est pas terminée.</translation>
+    </message>
+    <message>
         <source>its folder cannot be written.</source>
         <translation>son dossier n’est pas accessible en écriture.</translation>
     </message>

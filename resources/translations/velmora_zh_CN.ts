@@ -365,6 +365,10 @@
         <translation>名称中含有换行符，文件管理器无法隐藏。</translation>
     </message>
     <message>
+        <source>the command did not come to an end.</source>
+        <translation>命令未能结束。</translation>
+    </message>
+    <message>
         <source>its folder cannot be written.</source>
         <translation>所在文件夹不可写。</translation>
     </message>

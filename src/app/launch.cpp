@@ -12,6 +12,7 @@
 #include "platform/log.h"
 #include "platform/shell.h"
 #include "platform/single_instance.h"
+#include "platform/standard_streams.h"
 #include "platform/termination_signals.h"
 #include "state/user_defaults.h"
 
@@ -45,14 +46,15 @@ int run(Application& application) {
         return 0;
     }
     UserDefaults defaults(UserDefaults::standardFile());
+    // Ended from outside, the program stores everything but does not run the quit pass. Before the
+    // launch pass, which such an end cuts short.
+    const TerminationSignals terminationSignals;
+    Shell::setInterruption(terminationSignals.descriptor());
+    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &application,
+                     &Application::terminate);
     MainWindow window;
     window.load();
     window.show();
-
-    // Ended from outside, the program stores everything but does not run the quit pass.
-    const TerminationSignals terminationSignals;
-    QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &application,
-                     &Application::terminate);
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &defaults,
         [&defaults] { defaults.synchronize(); }, Qt::DirectConnection);
@@ -68,6 +70,7 @@ int run(Application& application) {
 }  // namespace
 
 int launch(int argc, char** argv) {
+    prepareStandardStreams();
     Log::install();
     // Before the application object, which would make the desktop's own style otherwise.
     QApplication::setStyle(new VelmoraStyle);

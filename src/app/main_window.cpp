@@ -81,9 +81,12 @@ MainWindow::MainWindow(OpenPanel openPanel)
     connectStandardCommands(delegate_.outlets(), window_);
     connectControls();
     connectQuietLine();
+    Shell::setWhileWaiting([this] { stayPainted(); });
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    Shell::setWhileWaiting({});
+}
 
 void MainWindow::load() {
     windowController_.windowDidLoad();
@@ -99,6 +102,16 @@ void MainWindow::bringForward(const QByteArray& token) {
     }
     window_.raise();
     window_.activateWindow();
+}
+
+void MainWindow::stayPainted() {
+    // Nothing but painting: whatever else comes waits for the end of the press or the pass.
+    if (window_.isVisible()) {
+        window_.repaint();
+    }
+    if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
+        application->discardPendingInput();
+    }
 }
 
 void MainWindow::connectControls() {

@@ -49,6 +49,7 @@ public:
 private:
     void connectControls();
     void connectQuietLine();
+    void stayPainted();
 
     QMainWindow window_;
     std::unique_ptr<Ui::Main> outlets_;

@@ -11,6 +11,8 @@ QString reasonFor(Hiding::Obstacle obstacle) {
             return QuietLine::tr("its path holds an apostrophe, which the command cannot take.");
         case Hiding::Obstacle::LineBreak:
             return QuietLine::tr("its name holds a line break, which file managers cannot hide.");
+        case Hiding::Obstacle::TimeUp:
+            return QuietLine::tr("the command did not come to an end.");
         case Hiding::Obstacle::FolderReadOnly:
             return QuietLine::tr("its folder cannot be written.");
         default:

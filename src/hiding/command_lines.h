@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include <QString>
 
 /// The complete set of command lines that the program hands to the shell. A path goes in exactly
@@ -22,6 +24,20 @@ inline QString hide(const QString& path) {
 /// The quit pass leaves the quotes away; the difference is deliberate.
 inline QString hideAtQuit(const QString& path) {
     return QStringLiteral("chflags hidden ") + path;
+}
+
+/// Whether the shell can do nothing with the path but hand words to the command. Whatever its name
+/// says, an item must not make the shell run something else: a line with any other path is only
+/// read, never run.
+enum class Quoting { SingleQuotes, None };
+inline bool isHarmless(const QString& path, Quoting quoting) {
+    if (quoting == Quoting::SingleQuotes) {
+        return !path.contains(u'\'');
+    }
+    // Blanks, globs, `~`, `#` and braces only make other words of it.
+    return std::none_of(path.cbegin(), path.cend(), [](QChar character) {
+        return QStringView(u";&|<>()$`\\\"'\n\r").contains(character);
+    });
 }
 
 }  // namespace command_lines

@@ -5,10 +5,10 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include "hiding/command_lines.h"
 #include "platform/file_attributes.h"
 #include "platform/item_visibility.h"
-#include "platform/shell.h"
+
+using command_lines::Quoting;
 
 namespace {
 
@@ -52,36 +52,36 @@ void Hiding::resetShowAll() const {
 
 void Hiding::switchItem(ItemRecord& record, bool visible) {
     const QString path = record.filePath();
-    if (visible) {
-        show(path);
-    } else {
-        Shell::run(command_lines::hide(path));
-        refresh_.itemChanged(path);
-    }
+    const QString line = visible ? command_lines::show(path) : command_lines::hide(path);
+    const Shell::Ending ending = change(path, line, Quoting::SingleQuotes);
     record.setVisible(visible ? VisibleForm::StringOne : VisibleForm::StringZero);
-    emit switched(path, visible, obstacleFor(path, visible));
+    const Obstacle obstacle = obstacleFor(path, visible);
+    const bool tookTooLong = ending == Shell::Ending::TimeUp && obstacle != Obstacle::None;
+    emit switched(path, visible, tookTooLong ? Obstacle::TimeUp : obstacle);
 }
 
 void Hiding::showAtLaunch(ItemList& list) {
-    for (qsizetype index = list.size() - 1; index >= 0; --index) {
+    for (qsizetype index = list.size() - 1; index >= 0 && !Shell::isInterrupted(); --index) {
         ItemRecord record = list.at(index);
-        show(record.filePath());
+        change(record.filePath(), command_lines::show(record.filePath()), Quoting::SingleQuotes);
         record.setVisible(VisibleForm::StringOne);
         list.replace(index, record);
     }
 }
 
 void Hiding::hideAtQuit(ItemList& list) {
-    for (qsizetype index = 0; index < list.size(); ++index) {
+    for (qsizetype index = 0; index < list.size() && !Shell::isInterrupted(); ++index) {
         ItemRecord record = list.at(index);
         record.setVisible(VisibleForm::StringZero);
         list.replace(index, record);
-        Shell::run(command_lines::hideAtQuit(record.filePath()));
-        refresh_.itemChanged(record.filePath());
+        change(record.filePath(), command_lines::hideAtQuit(record.filePath()), Quoting::None);
     }
 }
 
-void Hiding::show(const QString& path) {
-    Shell::run(command_lines::show(path));
+Shell::Ending Hiding::change(const QString& path, const QString& commandLine, Quoting quoting) {
+    const Shell::Ending ending = command_lines::isHarmless(path, quoting)
+                                     ? Shell::run(commandLine)
+                                     : Shell::read(commandLine);
     refresh_.itemChanged(path);
+    return ending;
 }

@@ -5,7 +5,9 @@
 #include <QObject>
 #include <QString>
 
+#include "hiding/command_lines.h"
 #include "platform/file_manager_refresh.h"
+#include "platform/shell.h"
 #include "state/item_list.h"
 
 /// The one owner of hiding: the command line of each place, what the record says afterwards,
@@ -13,13 +15,15 @@
 /// in the program runs a command on an item.
 ///
 /// Every command goes through the shell and is waited for; its result is never looked at, and a
-/// record always says what was last asked for.
+/// record always says what was last asked for. A path that could make the shell do anything but call
+/// `chflags` is read by it, not run. A pass ends early, after the item at hand, when the program is
+/// asked to end from outside.
 class Hiding final : public QObject {
     Q_OBJECT
 
 public:
     /// Why an item is not in the state that the switch asked for.
-    enum class Obstacle { None, Gone, Apostrophe, LineBreak, FolderReadOnly, Unknown };
+    enum class Obstacle { None, Gone, Apostrophe, LineBreak, TimeUp, FolderReadOnly, Unknown };
 
     explicit Hiding(QObject* parent = nullptr);
 
@@ -49,7 +53,8 @@ signals:
     void unreachedChanged();
 
 private:
-    void show(const QString& path);
+    Shell::Ending change(const QString& path, const QString& commandLine,
+                         command_lines::Quoting quoting);
 
     FileManagerRefresh refresh_;
 };

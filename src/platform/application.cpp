@@ -1,9 +1,11 @@
 #include "platform/application.h"
 
 #include <exception>
+#include <utility>
 
 #include <QEventLoop>
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -47,6 +49,26 @@ private:
     QEventLoop* loop_;
 };
 
+bool isInput(const QEvent& event) {
+    switch (event.type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::NonClientAreaMouseButtonPress:
+        case QEvent::ContextMenu:
+        case QEvent::Wheel:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::ShortcutOverride:
+        case QEvent::TouchBegin:
+        case QEvent::TabletPress:
+            return true;
+        default:
+            return false;
+    }
+}
+
 }  // namespace
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
@@ -54,6 +76,9 @@ Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {
+    if (discardsInput_ && isInput(*event)) {
+        return true;
+    }
     try {
         return QApplication::notify(receiver, event);
     } catch (const std::exception& exception) {
@@ -107,6 +132,17 @@ void Application::stopModal() {
     if (!modalLoops().isEmpty()) {
         modalLoops().constLast()->quit();
     }
+}
+
+void Application::discardPendingInput() {
+    if (std::exchange(discardsInput_, true)) {
+        return;
+    }
+    // What waits comes with the first turn of the event loop; the time counts from there.
+    constexpr int longestTurn = 50;  // milliseconds
+    QMetaObject::invokeMethod(
+        this, [this] { QTimer::singleShot(longestTurn, this, [this] { discardsInput_ = false; }); },
+        Qt::QueuedConnection);
 }
 
 void Application::terminate() {

@@ -31,7 +31,14 @@ public:
     /// Ends the event loop, and the program with it. Asks nobody.
     static void terminate();
 
+    /// Forgets the clicks and keys that have come in while the program could not take them, so that
+    /// they do not hit what is shown by then. Everything else that waits is kept.
+    void discardPendingInput();
+
 signals:
     /// An exception has left a handler: what is in memory and what is shown may differ.
     void exceptionReported();
+
+private:
+    bool discardsInput_ = false;
 };

@@ -15,6 +15,7 @@ std::optional<FileAttributes> attributesOfItem(const QString& path) {
     attributes.size = status.st_size;
     attributes.modified = QDateTime::fromSecsSinceEpoch(status.st_mtime);
     // Qt tells only of what a link points to. A link itself is as it was made.
-    attributes.created = S_ISLNK(status.st_mode) ? attributes.modified : QFileInfo(path).birthTime();
+    attributes.created =
+        S_ISLNK(status.st_mode) ? attributes.modified : QFileInfo(path).birthTime();
     return attributes;
 }

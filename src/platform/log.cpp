@@ -1,6 +1,9 @@
 #include "platform/log.h"
 
-#include <cstdio>
+#include <algorithm>
+
+#include <poll.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -9,6 +12,28 @@
 #include <QStringList>
 
 namespace {
+
+// Whoever reads the log may have stopped reading, or be gone. What cannot be written is lost: once
+// the reader has been waited for a little, not at all until it reads again.
+void writeToStandardError(QByteArrayView bytes) {
+    constexpr int patience = 50;     // milliseconds
+    constexpr qsizetype most = 512;  // a pipe that is ready takes as much
+    static bool readerIsSlow = false;
+    while (!bytes.isEmpty()) {
+        pollfd output{STDERR_FILENO, POLLOUT, 0};
+        if (poll(&output, 1, readerIsSlow ? 0 : patience) <= 0) {
+            readerIsSlow = true;
+            return;
+        }
+        readerIsSlow = false;
+        const ssize_t count =
+            write(STDERR_FILENO, bytes.data(), static_cast<size_t>(std::min(bytes.size(), most)));
+        if (count <= 0) {
+            return;
+        }
+        bytes = bytes.sliced(count);
+    }
+}
 
 void writeLine(const QString& text) {
     // QCoreApplication may not exist yet, or no longer, when a message comes.
@@ -21,9 +46,7 @@ void writeLine(const QString& text) {
                  name)
             .arg(QCoreApplication::applicationPid()) +
         text + u'\n';
-    const QByteArray bytes = line.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stderr);
-    std::fflush(stderr);
+    writeToStandardError(line.toUtf8());
 }
 
 void handleMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/,

@@ -1,11 +1,15 @@
 #include "platform/shell.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -13,6 +17,7 @@
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QStringDecoder>
 
 #include "platform/exceptions.h"
@@ -38,34 +43,135 @@ std::vector<char*> environmentPointers() {
     return pointers;
 }
 
-// Starts `/bin/sh -c commandLine`, with `outputEnd` (when not negative) as its standard output.
-pid_t spawnShell(const QString& commandLine, int outputEnd) {
+constexpr std::chrono::milliseconds longestLine{30000};
+constexpr std::chrono::milliseconds unnoticed{100};
+constexpr std::chrono::milliseconds step{50};
+
+std::chrono::milliseconds patience = longestLine;
+std::function<void()> whileWaiting;
+int interruption = -1;
+
+/// Both ends are closed in the programs that are started, unless they are handed over.
+class Pipe final {
+public:
+    Pipe() {
+        if (pipe(ends_) != 0) {
+            throw LaunchException(std::strerror(errno));
+        }
+        for (const int end : ends_) {
+            fcntl(end, F_SETFD, FD_CLOEXEC);
+        }
+    }
+    ~Pipe() {
+        close(ends_[0]);
+        closeWriting();
+    }
+    Q_DISABLE_COPY_MOVE(Pipe)
+
+    int reading() const { return ends_[0]; }
+    int writing() const { return ends_[1]; }
+    void closeWriting() {
+        if (ends_[1] >= 0) {
+            close(std::exchange(ends_[1], -1));
+        }
+    }
+
+private:
+    int ends_[2] = {-1, -1};
+};
+
+enum class Mode { Run, ReadOnly };
+
+// Starts `/bin/sh -c commandLine` in a process group of its own. The pipe's writing end is its
+// standard output where that is wanted; it is held by everything that the line starts, so that the
+// pipe ends when the line does.
+pid_t spawnShell(const QString& commandLine, Mode mode, Pipe& pipe, bool outputWanted) {
     if (environmentEntries.empty()) {
         Shell::setCompanionsFolder({});
     }
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    if (outputEnd >= 0) {
-        posix_spawn_file_actions_adddup2(&actions, outputEnd, STDOUT_FILENO);
+    if (outputWanted) {
+        posix_spawn_file_actions_adddup2(&actions, pipe.writing(), STDOUT_FILENO);
+    } else {
+        constexpr int spare = 9;
+        posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+        posix_spawn_file_actions_adddup2(&actions, pipe.writing(), spare);
     }
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    sigset_t usual;
+    sigemptyset(&usual);
+    sigaddset(&usual, SIGPIPE);
+    posix_spawnattr_setsigdefault(&attributes, &usual);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGDEF);
     QByteArray text = commandLine.toUtf8();
     std::string shell = "sh";
-    std::string option = "-c";
+    std::string option = mode == Mode::Run ? "-c" : "-nc";
     char* arguments[] = {shell.data(), option.data(), text.data(), nullptr};
     std::vector<char*> environment = environmentPointers();
     pid_t child = -1;
     const int error =
-        posix_spawn(&child, "/bin/sh", &actions, nullptr, arguments, environment.data());
+        posix_spawn(&child, "/bin/sh", &actions, &attributes, arguments, environment.data());
+    posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
     if (error != 0) {
         throw LaunchException(std::string("/bin/sh: ") + std::strerror(error));
     }
+    pipe.closeWriting();
     return child;
 }
 
-void waitFor(pid_t child) {
-    int status = 0;
-    while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+// The one way of waiting for a line: gathers what comes through the pipe until that ends, the time
+// is up or the program is asked to end. No event is handled meanwhile.
+Shell::Ending gather(const Pipe& pipe, QByteArray& bytes) {
+    QElapsedTimer timer;
+    timer.start();
+    for (;;) {
+        pollfd waiting[] = {{pipe.reading(), POLLIN, 0}, {interruption, POLLIN, 0}};
+        const std::chrono::milliseconds elapsed(timer.elapsed());
+        const bool longer = elapsed >= unnoticed;
+        poll(waiting, 2, static_cast<int>((longer ? step : unnoticed).count()));
+        if (waiting[0].revents != 0) {
+            char buffer[4096];
+            const ssize_t count = read(pipe.reading(), buffer, sizeof buffer);
+            if (count == 0) {
+                return Shell::Ending::ByItself;
+            }
+            bytes.append(buffer, std::max<ssize_t>(count, 0));
+        } else if (waiting[1].revents != 0) {
+            return Shell::Ending::Interrupted;
+        } else if (elapsed >= patience) {
+            return Shell::Ending::TimeUp;
+        } else if (longer && whileWaiting) {
+            whileWaiting();
+        }
+    }
+}
+
+Shell::Ending runLine(const QString& commandLine, Mode mode, bool outputWanted,
+                      QByteArray& output) {
+    Pipe pipe;
+    const pid_t child = spawnShell(commandLine, mode, pipe, outputWanted);
+    const Shell::Ending ending = gather(pipe, output);
+    if (ending != Shell::Ending::ByItself) {
+        // Before the shell is waited for: until then nothing else can have its number.
+        kill(-child, SIGKILL);
+    }
+    while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    return ending;
+}
+
+// As with the standard library's own call, a shell that cannot be started is just a command that
+// did nothing.
+Shell::Ending runQuietly(const QString& commandLine, Mode mode) {
+    QByteArray ignored;
+    try {
+        return runLine(commandLine, mode, false, ignored);
+    } catch (const LaunchException& exception) {
+        Log::line(QString::fromUtf8(exception.what()));
+        return Shell::Ending::ByItself;
     }
 }
 
@@ -99,45 +205,34 @@ QString Shell::defaultCompanionsFolder() {
                            QStringLiteral("/../libexec/velmora"));
 }
 
-void Shell::run(const QString& commandLine) {
-    try {
-        waitFor(spawnShell(commandLine, -1));
-    } catch (const LaunchException& exception) {
-        // As with the standard library's own call, a shell that cannot be started is just a
-        // command that did nothing.
-        Log::line(QString::fromUtf8(exception.what()));
-    }
+void Shell::setPatience(std::chrono::milliseconds patience) {
+    ::patience = patience;
+}
+
+void Shell::setInterruption(int descriptor) {
+    interruption = descriptor;
+}
+
+bool Shell::isInterrupted() {
+    pollfd asked{interruption, POLLIN, 0};
+    return poll(&asked, 1, 0) > 0;
+}
+
+void Shell::setWhileWaiting(const std::function<void()>& work) {
+    whileWaiting = work;
+}
+
+Shell::Ending Shell::run(const QString& commandLine) {
+    return runQuietly(commandLine, Mode::Run);
+}
+
+Shell::Ending Shell::read(const QString& commandLine) {
+    return runQuietly(commandLine, Mode::ReadOnly);
 }
 
 std::optional<QString> Shell::output(const QString& commandLine) {
-    int ends[2];
-    if (pipe(ends) != 0) {
-        throw LaunchException(std::strerror(errno));
-    }
-    fcntl(ends[0], F_SETFD, FD_CLOEXEC);
-    fcntl(ends[1], F_SETFD, FD_CLOEXEC);
-    pid_t child = -1;
-    try {
-        child = spawnShell(commandLine, ends[1]);
-    } catch (...) {
-        close(ends[0]);
-        close(ends[1]);
-        throw;
-    }
-    close(ends[1]);
     QByteArray bytes;
-    char buffer[4096];
-    for (;;) {
-        const ssize_t count = read(ends[0], buffer, sizeof buffer);
-        if (count > 0) {
-            bytes.append(buffer, count);
-        } else if (count == 0 || errno != EINTR) {
-            break;
-        }
-    }
-    close(ends[0]);
-    waitFor(child);
-
+    runLine(commandLine, Mode::Run, true, bytes);
     QStringDecoder decoder(QStringDecoder::Utf8);
     const QString text = decoder(bytes);
     if (decoder.hasError()) {

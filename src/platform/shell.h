@@ -1,11 +1,16 @@
 #pragma once
 
+#include <chrono>
+#include <functional>
 #include <optional>
 
 #include <QString>
 
 /// The two ways in which the program changes files and asks the file manager: a command line
-/// handed to `/bin/sh`. Both block until the shell has ended; neither looks at the exit status.
+/// handed to `/bin/sh`. Both block until the line has ended; neither looks at the exit status.
+///
+/// Every line is a process group of its own, which is ended as a whole when it takes too long or
+/// the program is asked to end. Main thread only; no event is handled meanwhile.
 class Shell {
 public:
     /// Folder put first on `PATH` for these command lines alone (what the program opens does not
@@ -17,8 +22,23 @@ public:
     /// The folder that belongs to the running program: `../libexec/velmora` beside its own.
     static QString defaultCompanionsFolder();
 
-    static void run(const QString& commandLine);
+    enum class Ending { ByItself, TimeUp, Interrupted };
+
+    /// Standard input is empty; what the line prints goes where the program's own does.
+    static Ending run(const QString& commandLine);
+    /// Has the shell read the line without running anything of it.
+    static Ending read(const QString& commandLine);
     /// What the command line printed on its standard output; no value when that is not valid
     /// UTF-8. Standard input and standard error stay the program's own.
     static std::optional<QString> output(const QString& commandLine);
+
+    /// How long a line may take: 30 seconds, unless a test sets it.
+    static void setPatience(std::chrono::milliseconds patience);
+    /// A descriptor that becomes readable when the program is asked to end; -1 for none. It is only
+    /// looked at.
+    static void setInterruption(int descriptor);
+    /// Whether the program has been asked to end.
+    static bool isInterrupted();
+    /// What is done while a line takes long, several times a second from a tenth of a second on.
+    static void setWhileWaiting(const std::function<void()>& work);
 };

@@ -26,11 +26,10 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
     fcntl(ends[0], F_SETFD, FD_CLOEXEC);
     fcntl(ends[1], F_SETFD, FD_CLOEXEC);
     auto* notifier = new QSocketNotifier(ends[0], QSocketNotifier::Read, this);
-    connect(notifier, &QSocketNotifier::activated, this, [this] {
-        char byte = 0;
-        if (read(ends[0], &byte, 1) == 1) {
-            emit terminationRequested();
-        }
+    connect(notifier, &QSocketNotifier::activated, this, [this, notifier] {
+        // What is in the pipe stays there: the program has been asked to end.
+        notifier->setEnabled(false);
+        emit terminationRequested();
     });
     struct sigaction action {};
     action.sa_handler = reportSignal;
@@ -38,6 +37,10 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
     for (const int number : handledSignals) {
         sigaction(number, &action, nullptr);
     }
+}
+
+int TerminationSignals::descriptor() const {
+    return ends[0];
 }
 
 TerminationSignals::~TerminationSignals() {

@@ -11,6 +11,9 @@ public:
     explicit TerminationSignals(QObject* parent = nullptr);
     ~TerminationSignals() override;
 
+    /// Becomes readable with the first of these signals; only to be looked at. -1 for none.
+    int descriptor() const;
+
 signals:
     void terminationRequested();
 };

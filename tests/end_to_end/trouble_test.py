@@ -1,10 +1,12 @@
 """Bad input and bad luck: nothing crashes, nothing is lost, and a person is told what matters."""
+import contextlib
 import json
+import os
 import random
 import time
 
 import desktop
-from desktop import Story, click, key, wait
+from desktop import Story, click, key, middle, wait, xdotool
 
 
 class Trouble(Story):
@@ -100,6 +102,55 @@ class Trouble(Story):
                                      if told in node.name], [])
         self.eventually(velmora.stored, [("a", "1")])
         self.assertFalse(self.home.hidden(item))
+
+    def test_a_log_that_is_not_read(self):
+        """Standard input and output are closed; the log's reader stops reading, and then goes."""
+        self.home.seed(*self.home.make("a"))
+        log = self.home.folder / "log"
+        os.mkfifo(log)
+        reader = os.open(log, os.O_RDONLY | os.O_NONBLOCK)
+        velmora = desktop.Application(self.home, "/bin/sh", "-c",
+                                      f"exec '{desktop.PROGRAM}' 2>'{log}' <&- >&-")
+        self.addCleanup(velmora.stop)
+        for number in 0, 1:  # no file of the program's has the number of a closed stream
+            self.assertEqual(os.readlink(f"/proc/{velmora.process.pid}/fd/{number}"), "/dev/null")
+        writer = os.open(log, os.O_WRONLY | os.O_NONBLOCK)
+        with contextlib.suppress(BlockingIOError):
+            while True:
+                os.write(writer, bytes(4096))
+        os.close(writer)
+        for gone, now in (False, "Hidden"), (True, "Visible"):
+            if gone:
+                os.close(reader)
+            velmora.press("Visible", "check box")
+            velmora.find(f"a, {now}", "list item")
+        key("alt+F4")
+        self.assertEqual(velmora.ended(), 0)
+
+    def test_a_command_that_does_not_end(self):
+        a, b = self.home.make("a", "b")
+        self.home.seed(a, b)
+        slow = self.home.recording_program("chflags", then="sleep 2")
+        velmora = self.start(slow)
+        switch = velmora.find("Visible", "check box")
+        place = middle(velmora.row("b"))
+        click(switch)
+        wait(self.home.records, "the command runs")
+        xdotool("mousemove", *place, "click", 1)
+        key("Down", "ctrl+h")
+        self.eventually(velmora.current, ["a, Hidden"])  # what came meanwhile is forgotten
+        self.assertEqual(len(self.home.records()), 1)
+        velmora.says("still visible")
+        velmora.stop()
+
+        velmora = self.start(self.home.recording_program("chflags", then="sleep 60"))
+        self.home.recorded.unlink()
+        velmora.press("Visible", "check box")
+        wait(self.home.records, "the command runs")
+        began = time.monotonic()
+        self.assertEqual(velmora.stop(), 0)
+        self.assertLess(time.monotonic() - began, 10)
+        self.assertEqual(velmora.stored(), [("a", "1"), ("b", "1")])
 
     def test_killed_at_any_moment_the_store_is_whole(self):
         self.home.seed(*self.home.make("a", "b"))

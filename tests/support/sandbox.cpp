@@ -29,13 +29,10 @@ Sandbox::Sandbox() {
         [](QtMsgType, const QMessageLogContext&, const QString& message) { logLines << message; });
     QDir(folder()).mkpath(QStringLiteral("files"));
     QDir(folder()).mkpath(QStringLiteral("commands"));
-    for (const char* name : {"chflags", "defaults", "killall"}) {
-        const QString script = QStringLiteral(
-            "#!/bin/sh\n(printf %2; printf '|%s' \"$@\"; echo) >>'%1/record'\n"
-            "test \"$1\" != read || cat '%1/show-all' 2>/dev/null\n");
-        writeScript(folder() + QStringLiteral("/commands/") + QLatin1String(name),
-                    script.arg(folder(), QLatin1String(name)));
-    }
+    setCommand(QStringLiteral("chflags"), {});
+    setCommand(QStringLiteral("killall"), {});
+    setCommand(QStringLiteral("defaults"),
+               QStringLiteral("cat '%1/show-all' 2>/dev/null").arg(folder()));
     // Takes the items as they come, and shows them once they are whole.
     writeScript(folder() + QStringLiteral("/commands/refresh"),
                 QStringLiteral("#!/bin/sh\n{ for path; do echo \"$path\"; done; tr '\\0' '\\n'; } "
@@ -49,6 +46,13 @@ Sandbox::Sandbox() {
 
 Sandbox::~Sandbox() {
     qInstallMessageHandler(nullptr);
+}
+
+void Sandbox::setCommand(const QString& name, const QString& script) const {
+    writeScript(folder() + QStringLiteral("/commands/") + name,
+                QStringLiteral("#!/bin/sh\n(printf %2; printf '|%s' \"$@\"; echo) >>'%1/record'\n")
+                        .arg(folder(), name) +
+                    script);
 }
 
 QString Sandbox::makeFile(const QString& name) const {

@@ -23,6 +23,8 @@ public:
     QStringList makeFiles(const QStringList& names) const;
     /// The commands that the shell was given since the last call, "chflags|hidden|/a b" each.
     QStringList commands() const;
+    /// What the recorded command of that name does from now on besides; its record comes first.
+    void setCommand(const QString& name, const QString& script) const;
     /// Waits for what the file managers are told next: the names of the changed items, in order.
     QStringList told() const;
     /// What `defaults read` prints from now on.

@@ -1,0 +1,165 @@
+#include <csignal>
+
+#include <unistd.h>
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "app/main_window.h"
+#include "hiding/hiding.h"
+#include "platform/application.h"
+#include "sandbox.h"
+#include "state/preference_keys.h"
+#include "ui_Main.h"
+
+Q_DECLARE_METATYPE(Hiding::Obstacle)
+
+/// What the owner of hiding does with odd names and with commands that do not end.
+class HidingTest final : public QObject {
+    Q_OBJECT
+
+private:
+    static constexpr std::chrono::milliseconds usualPatience{30000};
+
+    ItemList listOf(const QStringList& paths) {
+        ItemList list;
+        for (const QString& path : paths) {
+            list.append(ItemRecord::forPath(path, VisibleForm::StringOne));
+        }
+        return list;
+    }
+    /// Whether the process that a command noted still runs.
+    static bool runs(const QString& noted) {
+        QFile file(noted);
+        const bool open = file.open(QIODevice::ReadOnly);
+        return open && kill(file.readAll().trimmed().toInt(), 0) == 0;
+    }
+
+private slots:
+    void cleanup() {
+        Shell::setPatience(usualPatience);
+        Shell::setInterruption(-1);
+    }
+
+    void givesTheShellNoMoreThanWords_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("quoted");
+        QTest::addColumn<bool>("unquoted");
+        const auto row = [](const char* path, bool quoted, bool unquoted) {
+            QTest::newRow(path) << QString::fromUtf8(path) << quoted << unquoted;
+        };
+        for (const char* word : {"/a", "/a b", "/a [b] {c,d} #1 ~ 100% ü", "/a*?!=:@^+-_.,"}) {
+            row(word, true, true);
+        }
+        for (const char* metacharacter : {"/a;b", "/a&b", "/a|b", "/a<b", "/a>b", "/a(b", "/a)b",
+                                          "/a$b", "/a`b", "/a\\b", "/a\"b", "/a\nb", "/a\rb"}) {
+            row(metacharacter, true, false);
+        }
+        row("/it's", false, false);
+    }
+    void givesTheShellNoMoreThanWords() {
+        QFETCH(QString, path);
+        using command_lines::Quoting;
+        QTEST(command_lines::isHarmless(path, Quoting::SingleQuotes), "quoted");
+        QTEST(command_lines::isHarmless(path, Quoting::None), "unquoted");
+    }
+
+    void runsNothingButTheCommand() {
+        Sandbox sandbox;
+        const QString mark = sandbox.folder() + "/ran";
+        const auto armed = [&](const QString& pattern) { return pattern.arg(mark); };
+        const QStringList paths{
+            armed("/a';touch '%1"), armed("/a;touch %1"),  armed("/a\ntouch %1"),
+            armed("/a$(touch %1)"), armed("/a`touch %1`"), armed("/a|touch %1"),
+            armed("/a>%1"),         armed("/a&touch %1"),  armed("/a\"$(touch %1)\"")};
+        Hiding hiding;
+        for (const QString& path : paths) {
+            ItemList list = listOf({path, sandbox.makeFile("plain")});
+            hiding.showAtLaunch(list);
+            hiding.hideAtQuit(list);
+            ItemRecord record = list.at(0);
+            hiding.switchItem(record, true);
+            QVERIFY2(!QFile::exists(mark), qPrintable(path));
+            QCOMPARE(record.visible(), QVariant("1"));
+            const QString commands = sandbox.commands().join(u'\n');
+            QVERIFY(commands.contains("chflags|hidden|plain"));
+            QVERIFY(!commands.contains("chflags|hidden|/a"));
+            QCOMPARE(commands.count("chflags|nohidden|/a"), path.contains(u'\'') ? 0 : 2);
+        }
+    }
+
+    void endsACommandThatDoesNot() {
+        Sandbox sandbox;
+        const QString path = sandbox.makeFile("a");
+        const QString noted = sandbox.folder() + "/process";
+        sandbox.setCommand("chflags", "sleep 60 & echo $! >'" + noted + "'; wait");
+        Shell::setPatience(std::chrono::milliseconds(500));
+        Hiding hiding;
+        QSignalSpy switched(&hiding, &Hiding::switched);
+        ItemRecord record = ItemRecord::forPath(path, VisibleForm::StringOne);
+        QElapsedTimer timer;
+        timer.start();
+        hiding.switchItem(record, false);
+        QVERIFY(timer.elapsed() < 5000);
+        QTRY_VERIFY(!runs(noted));  // with all that it started
+        QCOMPARE(switched.at(0).at(2).value<Hiding::Obstacle>(), Hiding::Obstacle::TimeUp);
+        QCOMPARE(record.visible(), QVariant("0"));
+    }
+
+    void endsAPassAfterTheItemAtHandWhenAskedToEnd() {
+        Sandbox sandbox;
+        int ends[2];
+        QVERIFY(pipe(ends) == 0);
+        Shell::setInterruption(ends[0]);
+        // The second item's command asks for the end, as a signal would, and goes on for long.
+        sandbox.setCommand(
+            "chflags", QStringLiteral("case $2 in *b) echo >&%1; sleep 60;; esac").arg(ends[1]));
+        const QStringList paths = sandbox.makeFiles({"a", "b", "c"});
+        Hiding hiding;
+        ItemList list = listOf(paths);
+        QElapsedTimer timer;
+        timer.start();
+        hiding.hideAtQuit(list);
+        QVERIFY(timer.elapsed() < 30000);
+        QCOMPARE(Sandbox::describe(list), QString("a:\"0\" b:\"0\" c:\"1\""));
+        hiding.showAtLaunch(list);
+        QCOMPARE(Sandbox::describe(list), QString("a:\"0\" b:\"0\" c:\"1\""));
+        ::close(ends[0]);
+        ::close(ends[1]);
+    }
+
+    void letsNothingElseHappenDuringAPress() {
+        Sandbox sandbox;
+        sandbox.storeList(sandbox.makeFiles({"a", "b"}));
+        MainWindow window;
+        window.load();
+        window.show();
+        const Ui::Main& ui = window.outlets();
+        sandbox.setCommand("chflags", "sleep 0.4");
+        int timers = 0;
+        QTimer::singleShot(0, this, [&timers] { ++timers; });
+        // A key that comes in meanwhile.
+        const auto key = [&](QEvent::Type type) {
+            return new QKeyEvent(type, Qt::Key_Down, Qt::NoModifier);
+        };
+        QCoreApplication::postEvent(ui.fileListView->tableView(), key(QEvent::KeyPress));
+        QCoreApplication::postEvent(ui.fileListView->tableView(), key(QEvent::KeyRelease));
+        ui.switchButton->click();
+        QCOMPARE(timers, 0);
+        QTRY_COMPARE(timers, 1);
+        QCOMPARE(ui.fileListView->selectRowIndex(), 0);
+        // Input is taken again a moment later.
+        QTRY_COMPARE((QTest::keyClick(ui.fileListView->tableView(), Qt::Key_Down),
+                      ui.fileListView->selectRowIndex()),
+                     1);
+    }
+};
+
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    HidingTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "hiding_test.moc"
