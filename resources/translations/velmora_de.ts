@@ -8,6 +8,10 @@
         <translation>%1 um %2</translation>
     </message>
     <message>
+        <source>Velmora is running already, but does not answer.</source>
+        <translation>Velmora läuft bereits, antwortet aber nicht.</translation>
+    </message>
+    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>

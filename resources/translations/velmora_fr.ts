@@ -8,6 +8,10 @@
         <translation>%1 à %2</translation>
     </message>
     <message>
+        <source>Velmora is running already, but does not answer.</source>
+        <translation>Velmora est déjà lancé, mais ne répond pas.</translation>
+    </message>
+    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>

@@ -8,6 +8,10 @@
         <translation>%1 %2</translation>
     </message>
     <message>
+        <source>Velmora is running already, but does not answer.</source>
+        <translation>Velmora 已在运行，但没有响应。</translation>
+    </message>
+    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>

@@ -1,5 +1,6 @@
 #include "app/launch.h"
 
+#include <QMessageBox>
 #include <QSessionManager>
 #include <QTimer>
 
@@ -42,6 +43,11 @@ int run(Application& application) {
     if (!instance.isFirst()) {
         if (!instance.activateFirst()) {
             Log::line(QStringLiteral("Velmora is running already."));
+            QMessageBox::information(
+                nullptr, QStringLiteral("Velmora"),
+                Bundle::localizedString(
+                    QStringLiteral("Velmora is running already, but does not answer."),
+                    QStringLiteral("Main")));
         }
         return 0;
     }

@@ -15,9 +15,9 @@
 /// in the program runs a command on an item.
 ///
 /// Every command goes through the shell and is waited for; its result is never looked at, and a
-/// record always says what was last asked for. A path that could make the shell do anything but call
-/// `chflags` is read by it, not run. A pass ends early, after the item at hand, when the program is
-/// asked to end from outside.
+/// record always says what was last asked for. A path that could make the shell do anything but
+/// call `chflags` is read by it, not run. A pass ends early, after the item at hand, when the
+/// program is asked to end from outside.
 class Hiding final : public QObject {
     Q_OBJECT
 

@@ -6,6 +6,7 @@
 
 #include "list/drag_drop_view.h"
 #include "platform/exceptions.h"
+#include "platform/file_attributes.h"
 #include "platform/log.h"
 
 namespace {
@@ -28,7 +29,7 @@ DroppedPaths droppedPaths(const QMimeData* data) {
     DroppedPaths dropped;
     for (const QUrl& url : data->urls()) {
         const QString path = isHere(url) ? url.path(QUrl::FullyDecoded) : QString();
-        if (path.isEmpty() || path.contains(QChar::ReplacementCharacter)) {
+        if (!isAbsolutePath(path) || path.contains(QChar::ReplacementCharacter)) {
             dropped.someUnreadable = true;
         } else {
             dropped.paths << path;

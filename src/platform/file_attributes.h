@@ -14,5 +14,14 @@ struct FileAttributes {
 
 /// No value when there is nothing at `path` or it may not be looked at.
 std::optional<FileAttributes> attributesOfItem(const QString& path);
-/// Whether a file or folder exists at `path` (links are followed; a null path is nowhere).
+/// Whether the path says where an item is: from the root on, and without a zero character, at which
+/// the system would take it to end.
+bool isAbsolutePath(const QString& path);
+/// Whether a file or folder exists at `path` (links are followed; a path that is not absolute
+/// is nowhere).
 bool fileExists(const QString& path);
+/// Makes a folder for its owner alone, with those above it, where it is missing. Null on success,
+/// or else the system's reason.
+QString makePrivateFolder(const QString& folder);
+/// Takes the rights of all but the owner away from a file or folder of the user's.
+void makePrivate(const QString& path);

@@ -6,10 +6,10 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
+#include "platform/file_attributes.h"
 #include "platform/single_instance.h"
 
 namespace {
@@ -49,7 +49,7 @@ private:
 
 SingleInstance::SingleInstance(const QString& lockFile, QObject* parent)
     : QObject(parent), lockFile_(lockFile) {
-    QDir().mkpath(QFileInfo(lockFile).path());
+    makePrivateFolder(QFileInfo(lockFile).path());
     lock_ = open(QFile::encodeName(lockFile).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
     if (lock_ >= 0 && flock(lock_, LOCK_EX | LOCK_NB) != 0) {
         first_ = errno != EWOULDBLOCK;

@@ -4,6 +4,7 @@
 
 #include <QDebug>
 
+#include "platform/file_attributes.h"
 #include "state/item_list.h"
 #include "state/preference_keys.h"
 #include "state/store_file.h"
@@ -89,6 +90,9 @@ void JsonStore::load() {
         saveProblem_ = UserDefaults::tr("The settings could not be saved: %1").arg(reason);
         return;
     }
+    // Of an earlier version, or copied here: it holds the password.
+    makePrivate(file_);
+    makePrivate(backup_);
     StoreReading reading = readStore(file_);
     contents_ = std::move(reading.contents);
     if (reading.state != StoreReading::State::Damaged) {

@@ -2,6 +2,7 @@
 
 #include <QSet>
 
+#include "platform/file_attributes.h"
 #include "platform/file_finder.h"
 #include "state/preference_keys.h"
 #include "state/user_defaults.h"
@@ -12,7 +13,8 @@ ItemList takeMissing(ItemList& list) {
     ItemList missing;
     FileFinder files(list.size());
     list.removeIf([&](const ItemRecord& record) {
-        const bool gone = !files.exists(record.filePath());
+        const QString path = record.filePath();
+        const bool gone = !isAbsolutePath(path) || !files.exists(path);
         if (gone) {
             missing.append(record);
         }

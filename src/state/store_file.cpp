@@ -14,6 +14,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "platform/file_attributes.h"
+
 namespace {
 
 class FileDescriptor final {
@@ -155,6 +157,7 @@ QString replaceStore(const QString& file, const StoreContents& contents) {
     if (QString reason = makeFolderOf(file); !reason.isNull()) {
         return reason;
     }
+    makePrivate(folderOf(file));
     QByteArray temporary = target + temporaryInfix.latin1() + "XXXXXX";
     FileDescriptor output(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!output.isOpen()) {
@@ -172,11 +175,5 @@ QString replaceStore(const QString& file, const StoreContents& contents) {
 }
 
 QString makeFolderOf(const QString& file) {
-    const QString folder = folderOf(linkTarget(file));
-    if (QFileInfo(folder).isDir()) {
-        return {};
-    }
-    QDir().mkpath(folderOf(folder));
-    const bool made = ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU) == 0;
-    return made ? QString() : lastError();
+    return makePrivateFolder(folderOf(linkTarget(file)));
 }

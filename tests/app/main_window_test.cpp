@@ -313,6 +313,16 @@ private slots:
     }
 
     void remembersWhatIsMissingUntilItIsListedAgain() {
+        {
+            Sandbox odd;
+            const QString path = odd.makeFile("a");
+            QDir::setCurrent(odd.folder() + "/files");
+            odd.storeList({path + QChar::Null + "b", "a", "./a", path});
+            Window w;
+            QDir::setCurrent("/");
+            QCOMPARE(odd.stored(), QString("a:\"1\""));
+            QCOMPARE(odd.missing().count("a"), 3);
+        }
         Sandbox sandbox;
         const QStringList paths = sandbox.makeFiles({"a", "b"});
         const auto start = [&] { Window w; };

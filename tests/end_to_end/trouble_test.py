@@ -3,6 +3,8 @@ import contextlib
 import json
 import os
 import random
+import signal
+import stat
 import time
 
 import desktop
@@ -126,6 +128,20 @@ class Trouble(Story):
             velmora.find(f"a, {now}", "list item")
         key("alt+F4")
         self.assertEqual(velmora.ended(), 0)
+
+    def test_a_second_start_that_gets_no_answer_says_so(self):
+        velmora = self.start()
+        wait(lambda: (self.home.store.parent / "instance.lock").read_bytes(), "the first listens")
+        self.assertEqual(stat.S_IMODE(self.home.store.parent.stat().st_mode), 0o700)
+        velmora.process.send_signal(signal.SIGSTOP)
+        self.addCleanup(velmora.process.send_signal, signal.SIGCONT)
+        second = desktop.Application(self.home, str(desktop.PROGRAM))
+        wait(lambda: second.shown("OK"), "a window says something")
+        self.assertIn("running already, but does not answer",
+                      " ".join(node.name for node in desktop.walk(second.tree[0])))
+        second.press("OK")
+        self.assertEqual(second.ended(), 0)
+        velmora.process.send_signal(signal.SIGCONT)
 
     def test_a_command_that_does_not_end(self):
         a, b = self.home.make("a", "b")

@@ -190,6 +190,21 @@ private slots:
         QCOMPARE(f.delegate.take(), QStringList());
     }
 
+    void refusesAddressesThatAreNoPlacesHere() {
+        Fixture f({"a"});
+        QSignalSpy refused(&f.view, &DragDropView::dropRefused);
+        QMimeData odd;
+        odd.setData("text/uri-list",
+                    "file:///tmp/cut%00short\r\nfile:relative\r\nfile:~/x\r\n"
+                    "file://elsewhere.invalid/tmp\r\nhttp://x/y\r\nfile:///%FF\r\n");
+        QVERIFY(f.view.prepareForDragOperation(&odd));
+        QCOMPARE(f.view.count(), 1);
+        QVERIFY(!refused.at(0).at(0).toString().isEmpty());
+        drop(f.view, {f.sandbox.makeFile("b")});
+        QCOMPARE(f.sandbox.stored(), QString("a:\"1\" b:\"1\""));
+        QCOMPARE(refused.at(1).at(0).toString(), QString());
+    }
+
     void failsOnADropOfAPathWithRecordsBehindIt() {
         Fixture f({"a", "b", "c"});
         f.view.addFileList({ItemRecord::forPath(f.paths.at(0), VisibleForm::StringOne)});

@@ -94,6 +94,27 @@ void StoreTest::everyTypeStaysItself() {
     QCOMPARE(modeOf(file_), 0600U);
 }
 
+void StoreTest::isForItsOwnerAlone() {
+    const QString wide = folder_->filePath("wide");
+    const QString file = wide + "/defaults.json";
+    QVERIFY(QDir().mkdir(wide));
+    write(file, "{}");
+    write(file + ".bak", "{}");
+    for (const QString& path : {wide, file, file + ".bak"}) {
+        QVERIFY(::chmod(QFile::encodeName(path).constData(), 0777) == 0);
+    }
+    UserDefaults defaults(file);
+    QCOMPARE(modeOf(file) | modeOf(file + ".bak"), 0700U);
+    defaults.setObject("x", passwordKey);
+    QVERIFY(defaults.synchronize());
+    QCOMPARE(modeOf(wide), 0700U);
+    const mode_t before = ::umask(0);
+    const QString made = folder_->filePath("made");
+    const UserDefaults other(made + "/defaults.json");
+    ::umask(before);
+    QCOMPARE(modeOf(made), 0700U);
+}
+
 void StoreTest::readsSeeWritesAtOnce() {
     UserDefaults defaults(file_);
     QVERIFY(!defaults.itemList());

@@ -62,6 +62,7 @@ private slots:
 
     void everyTypeStaysItself();
     void readsSeeWritesAtOnce();
+    void isForItsOwnerAlone();
     void changesShareOneSaveThatNobodyWaitsFor();
     void unchangedContentIsNotWritten();
     void oddContentIsKept();

@@ -30,7 +30,8 @@ public:
 
     /// Replaces the file with the changed text. Its mode, extended attributes and, where
     /// permitted, owner stay; its modification time gets later. An empty file that was made here,
-    /// and is not reached through a link, is removed. 0 or an errno: then the old file is as it was.
+    /// and is not reached through a link, is removed. 0 or an errno: then the old file is as it
+    /// was.
     int save();
 
 private:
