@@ -396,6 +396,14 @@ aus dem Dateimanager hierher ziehen</translation>
 <context>
     <name>UserDefaults</name>
     <message>
+        <source>The settings cannot be read, so the list is closed for now: %1</source>
+        <translation>Die Einstellungen können nicht gelesen werden; die Liste ist deshalb vorerst geschlossen: %1</translation>
+    </message>
+    <message>
+        <source>The settings were missing; the last good copy is used.</source>
+        <translation>Die Einstellungen fehlten; die letzte gute Kopie wird verwendet.</translation>
+    </message>
+    <message>
         <source>The settings held no proper item list. They were kept as “%1” before the new list was saved.</source>
         <translation>Die Einstellungen enthielten keine gültige Liste. Sie wurden als „%1“ aufbewahrt, bevor die neue Liste gespeichert wurde.</translation>
     </message>

@@ -396,6 +396,14 @@ depuis votre gestionnaire de fichiers</translation>
 <context>
     <name>UserDefaults</name>
     <message>
+        <source>The settings cannot be read, so the list is closed for now: %1</source>
+        <translation>Les réglages ne peuvent pas être lus ; la liste est donc fermée pour le moment : %1</translation>
+    </message>
+    <message>
+        <source>The settings were missing; the last good copy is used.</source>
+        <translation>Les réglages étaient absents ; la dernière bonne copie est utilisée.</translation>
+    </message>
+    <message>
         <source>The settings held no proper item list. They were kept as “%1” before the new list was saved.</source>
         <translation>Les réglages ne contenaient pas de liste valide. Ils ont été conservés sous « %1 » avant l’enregistrement de la nouvelle liste.</translation>
     </message>

@@ -396,6 +396,14 @@
 <context>
     <name>UserDefaults</name>
     <message>
+        <source>The settings cannot be read, so the list is closed for now: %1</source>
+        <translation>无法读取设置，因此列表暂时关闭：%1</translation>
+    </message>
+    <message>
+        <source>The settings were missing; the last good copy is used.</source>
+        <translation>设置文件缺失；正在使用最近一次的完好副本。</translation>
+    </message>
+    <message>
         <source>The settings held no proper item list. They were kept as “%1” before the new list was saved.</source>
         <translation>设置中没有有效的项目列表。保存新列表之前，原设置已保留为“%1”。</translation>
     </message>

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <QWindow>
+
 #include "app/main_menu.h"
 #include "app/main_window_look.h"
 #include "controls/rd_custom_button.h"
@@ -91,6 +93,27 @@ MainWindow::~MainWindow() {
 void MainWindow::load() {
     windowController_.windowDidLoad();
     viewController_.viewDidLoad();
+    followStore();
+}
+
+void MainWindow::readStoreAgain() {
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    if (!defaults.isRead() && defaults.readAgain()) {
+        viewController_.loadFromStore();
+        followStore();
+    }
+}
+
+void MainWindow::followStore() {
+    // What would change the store waits until it is read.
+    const bool isRead = UserDefaults::standardUserDefaults().isRead();
+    const Ui::Main& ui = *outlets_;
+    for (QWidget* control : std::initializer_list<QWidget*>{ui.addButton, ui.switchButton,
+                                                            ui.requirePassword, ui.settingButton}) {
+        control->setEnabled(isRead);
+    }
+    ui.addMenuItem->setEnabled(isRead);
+    ui.preferenceMenuItem->setEnabled(isRead);
 }
 
 void MainWindow::bringForward(const QByteArray& token) {
@@ -128,6 +151,8 @@ void MainWindow::connectControls() {
     if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
         QObject::connect(application, &Application::exceptionReported, ui.fileListView,
                          &DragDropView::showWhatIsThere);
+        QObject::connect(application, &QGuiApplication::focusWindowChanged, view,
+                         [this] { readStoreAgain(); });
     }
 }
 

@@ -36,6 +36,9 @@ public:
     /// Builds the window's state from the store, the launch pass included; once, before show().
     void load();
     void show() { window_.show(); }
+    /// Tries again to read a store that could not be read, and then starts with it. Also done
+    /// whenever the window gets the focus.
+    void readStoreAgain();
     /// Brings the window to the front; `token` lets it take the focus where the desktop asks for
     /// one, and may be empty.
     void bringForward(const QByteArray& token);
@@ -50,6 +53,7 @@ private:
     void connectControls();
     void connectQuietLine();
     void stayPainted();
+    void followStore();
 
     QMainWindow window_;
     std::unique_ptr<Ui::Main> outlets_;

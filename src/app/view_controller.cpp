@@ -52,9 +52,14 @@ ViewController::~ViewController() {
 }
 
 void ViewController::viewDidLoad() {
-    UserDefaults& defaults = UserDefaults::standardUserDefaults();
     addNotification();
     addLocal();
+    loadFromStore();
+}
+
+void ViewController::loadFromStore() {
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    parts_.passwordGate.titleCommand();
     launchReveal();
 
     const QString password = storedPassword();
@@ -119,7 +124,6 @@ void ViewController::addLocal() {
     // The menus never enable or disable their items by themselves here: the program does.
     appDelegate_ = &delegate_;
     titleMenus(appDelegate_->outlets());
-    parts_.passwordGate.titleCommand();
 }
 
 void ViewController::settingButtonTouch() {

@@ -53,6 +53,8 @@ public:
 
     /// Builds the main window's state from the store; once, before the window is shown.
     void viewDidLoad();
+    /// The part of it that depends on the store; again when that could not be read before.
+    void loadFromStore();
     /// Only passes the object on: the view shows no represented object.
     void setRepresentedObject(const QVariant& object) { setProperty("representedObject", object); }
 

@@ -41,6 +41,9 @@ PasswordGate::PasswordGate(const Outlets& outlets, QObject* parent)
     : QObject(parent), outlets_(outlets) {}
 
 bool PasswordGate::canEditorItem() const {
+    if (!UserDefaults::standardUserDefaults().isRead()) {
+        return false;
+    }
     if (isPasswordStored() && integerReading(stored(requirePasswordKey)) == 1) {
         return canReSetRequirtPassword_;
     }

@@ -7,7 +7,6 @@
 #include "platform/file_attributes.h"
 #include "state/item_list.h"
 #include "state/preference_keys.h"
-#include "state/store_file.h"
 #include "state/stored_value.h"
 #include "state/user_defaults.h"
 
@@ -50,6 +49,9 @@ QVariant JsonStore::value(const QString& key) const {
 }
 
 void JsonStore::setValue(const QString& key, const QVariant& value) {
+    if (!isRead_) {
+        return;
+    }
     QVariant& current = contents_[key];
     // The start of the program stores what it has just read; that is no reason to write.
     if (!unsaved_ && sameStoredValue(current, value)) {
@@ -82,33 +84,65 @@ QString JsonStore::problem() const {
     return saveProblem_.isEmpty() ? notice_ : saveProblem_;
 }
 
+bool JsonStore::readAgain() {
+    if (!isRead_) {
+        const QString before = problem();
+        saveProblem_.clear();
+        load();
+        if (problem() != before) {
+            emit problemChanged();
+        }
+    }
+    return isRead_;
+}
+
 void JsonStore::load() {
     removeStaleTemporaries(file_);
     removeStaleTemporaries(backup_);
-    const QString reason = makeFolderOf(file_);
-    if (!reason.isNull()) {
-        saveProblem_ = UserDefaults::tr("The settings could not be saved: %1").arg(reason);
-        return;
-    }
     // Of an earlier version, or copied here: it holds the password.
     makePrivate(file_);
     makePrivate(backup_);
+    using State = StoreReading::State;
     StoreReading reading = readStore(file_);
-    contents_ = std::move(reading.contents);
-    if (reading.state != StoreReading::State::Damaged) {
-        return;
+    StoreReading copy = reading.state == State::Good ? StoreReading() : readStore(backup_);
+    for (const StoreReading& each : {reading, copy}) {
+        isRead_ = each.state != State::OutOfReach;
+        if (!isRead_) {
+            saveProblem_ =
+                UserDefaults::tr("The settings cannot be read, so the list is closed for now: %1")
+                    .arg(each.reason);
+            return;
+        }
     }
+    if (reading.state == State::Good || copy.state == State::Missing) {
+        contents_ = std::move(reading.contents);
+    } else {
+        contents_ = std::move(copy.contents);
+    }
+    if (reading.state == State::Missing) {
+        const QString reason = makeFolderOf(file_);
+        if (!reason.isNull()) {
+            saveProblem_ = UserDefaults::tr("The settings could not be saved: %1").arg(reason);
+        } else if (copy.state == State::Good) {
+            notice_ = UserDefaults::tr("The settings were missing; the last good copy is used.");
+            unsaved_ = true;
+            scheduleSave();
+        }
+    } else if (reading.state == State::Damaged) {
+        replaceDamaged(copy.state);
+    }
+}
 
-    StoreReading copy = readStore(backup_);
-    contents_ = std::move(copy.contents);
-    noticeOnceAside_ = copy.state == StoreReading::State::Good
-                           ? UserDefaults::tr(
-                                 "The settings could not be read. They were kept as "
-                                 "“%1”, and the last good copy is used.")
-                           : UserDefaults::tr(
-                                 "The settings could not be read. They were kept as "
-                                 "“%1”, and there was no good copy to use instead.");
-    if (copy.state == StoreReading::State::Damaged) {
+void JsonStore::replaceDamaged(StoreReading::State copy) {
+    noticeOnceAside_ =
+        copy == StoreReading::State::Good
+            ? UserDefaults::tr(
+                  "The settings could not be read. They were kept as “%1”, and the "
+                  "last good copy is used.")
+            : UserDefaults::tr(
+                  "The settings could not be read. They were kept as “%1”, and there "
+                  "was no good copy to use instead.");
+    if (copy == StoreReading::State::Damaged) {
         setAside(backup_);
     }
     // At once, for the next start must find the file good again.

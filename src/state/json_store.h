@@ -4,6 +4,7 @@
 
 #include "state/json_codec.h"
 #include "state/store.h"
+#include "state/store_file.h"
 
 /// Keeps the user defaults in one JSON file. Changes are gathered until the next turn of the event
 /// loop; one save at a time then writes a snapshot on a thread of its own.
@@ -18,6 +19,8 @@ public:
     QVariant value(const QString& key) const override;
     void setValue(const QString& key, const QVariant& value) override;
     bool synchronize() override;
+    bool isRead() const override { return isRead_; }
+    bool readAgain() override;
     QString problem() const override;
 
 signals:
@@ -28,6 +31,7 @@ signals:
 
 private:
     void load();
+    void replaceDamaged(StoreReading::State copy);
     bool keepOldFile();
     void scheduleSave();
     void saveChanges();
@@ -39,6 +43,7 @@ private:
     const QString file_;
     const QString backup_;
     StoreContents contents_;
+    bool isRead_ = true;
 
     // Changes that no save has taken up, or that the last one failed to keep.
     bool unsaved_ = false;

@@ -19,6 +19,10 @@ public:
     /// Takes a value in its stored form (stored_value.h).
     virtual void setValue(const QString& key, const QVariant& value) = 0;
     virtual bool synchronize() = 0;
+    /// False while what is stored cannot be read; nothing is taken or saved then.
+    virtual bool isRead() const { return true; }
+    /// Tries again to read; whether what is stored is read now.
+    virtual bool readAgain() { return true; }
     virtual QString problem() const = 0;
 
 signals:

@@ -78,6 +78,19 @@ void syncFolder(const QString& folder) {
     }
 }
 
+// Whether a link on the way to the file, or the file's own, leads to a folder that is not there.
+bool leadsNowhere(const QString& file) {
+    const int error = errno;
+    QString place = folderOf(linkTarget(file));
+    bool nowhere = QFileInfo(file).isSymLink() && !QFileInfo(place).isDir();
+    while (!nowhere && !QFileInfo::exists(place) && place != folderOf(place)) {
+        nowhere = QFileInfo(place).isSymLink();
+        place = folderOf(place);
+    }
+    errno = error;
+    return nowhere;
+}
+
 }  // namespace
 
 QString linkTarget(const QString& file) {
@@ -91,18 +104,25 @@ QString linkTarget(const QString& file) {
 
 StoreReading readStore(const QString& file) {
     using State = StoreReading::State;
+    const auto outOfReach = [] { return StoreReading{State::OutOfReach, {}, lastError()}; };
     struct stat status {};
     if (::stat(QFile::encodeName(file).constData(), &status) != 0) {
-        return {errno == ENOENT ? State::Missing : State::Damaged, {}};
+        if (errno == ENOENT && leadsNowhere(file)) {
+            return outOfReach();
+        }
+        return errno == ENOENT || errno == ENOTDIR ? StoreReading() : outOfReach();
     }
     // Opening a pipe would wait for its other end.
-    QFile input(file);
-    if (!S_ISREG(status.st_mode) || !input.open(QIODevice::ReadOnly)) {
+    if (!S_ISREG(status.st_mode)) {
         return {State::Damaged, {}};
+    }
+    QFile input(file);
+    if (!input.open(QIODevice::ReadOnly)) {
+        return outOfReach();
     }
     QByteArray json = input.readAll();
     if (input.error() != QFileDevice::NoError) {
-        return {State::Damaged, {}};
+        return outOfReach();
     }
     std::optional<StoreContents> contents = decodeStore(std::move(json));
     if (!contents) {

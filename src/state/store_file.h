@@ -11,10 +11,12 @@
 QString linkTarget(const QString& file);
 
 struct StoreReading {
-    /// Damaged is whatever is there and cannot be used: not readable, no JSON object, no file.
-    enum class State { Missing, Good, Damaged };
+    /// Damaged is whatever is there and cannot be used: no JSON object, no file. Out of reach is
+    /// what may be there and cannot be looked at now: no right to it, a disk that is not there yet.
+    enum class State { Missing, Good, Damaged, OutOfReach };
     State state = State::Missing;
     StoreContents contents;
+    QString reason = {};  ///< the system's, for what is out of reach
 };
 StoreReading readStore(const QString& file);
 

@@ -78,6 +78,14 @@ bool UserDefaults::synchronize() {
     return store_->synchronize();
 }
 
+bool UserDefaults::isRead() const {
+    return store_->isRead();
+}
+
+bool UserDefaults::readAgain() {
+    return store_->readAgain();
+}
+
 QString UserDefaults::problem() const {
     return store_->problem();
 }

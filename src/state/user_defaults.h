@@ -21,9 +21,9 @@ class UserDefaults final : public QObject {
     Q_OBJECT
 
 public:
-    /// `file`: absolute path of the store. It is read here; a file that cannot be read or parsed
-    /// is set aside beside itself with the date in its name and the last good copy
-    /// (`<file>.bak`) is used when there is one; problem() then says so.
+    /// `file`: absolute path of the store. It is read here; a file that cannot be parsed is set
+    /// aside beside itself with the date in its name and the last good copy (`<file>.bak`) is used
+    /// when there is one, as it is when the file is missing; problem() then says so.
     explicit UserDefaults(const QString& file, QObject* parent = nullptr);
     /// Waits for the last save.
     ~UserDefaults() override;
@@ -48,6 +48,12 @@ public:
 
     /// Saves what is unsaved and waits for it. False when the save failed; problem() says why.
     bool synchronize();
+
+    /// False while what is stored may be there and cannot be read (no right to it, a disk that is
+    /// not there yet): every key then reads as absent, and nothing is taken or saved.
+    bool isRead() const;
+    /// Tries again to read; whether what is stored is read now.
+    bool readAgain();
 
     /// A sentence for the user on what is wrong with the store now (or, after the start, on what
     /// was found), translated; empty when all is well.

@@ -239,6 +239,38 @@ private slots:
         QVERIFY(w.main.window().isVisible());
     }
 
+    void staysClosedUntilTheStoreIsRead() {
+        Sandbox sandbox;
+        const QString file = UserDefaults::standardFile();
+        QVERIFY(QDir().mkpath(QFileInfo(file).path()));
+        QVERIFY(QFile::link("gone/disk.json", file));
+        UserDefaults defaults(file);
+        Window w;
+        QVERIFY(w.ui.quietLine->text().contains("cannot be read"));
+        QVERIFY(!w.main.viewController().canEditorItem() && !w.list()->canDragDrop());
+        for (const QWidget* control : std::initializer_list<const QWidget*>{
+                 w.ui.switchButton, w.ui.addButton, w.ui.requirePassword, w.ui.settingButton}) {
+            QVERIFY(!control->isEnabled());
+        }
+        drop(*w.list(), {sandbox.makeFile("b")});
+        w.main.readStoreAgain();
+        QVERIFY(!defaults.isRead());
+        // Now the disk is there, with a list that is shown at each start.
+        QVERIFY(QFile::remove(file));
+        {
+            UserDefaults there(file);
+            ItemList list;
+            list.append(ItemRecord::forPath(sandbox.makeFile("a"), VisibleForm::StringZero));
+            there.setItemList(list);
+            setPreference(Preference::MakeVisibleAtLaunch, true);
+        }
+        w.main.readStoreAgain();
+        QCOMPARE(sandbox.commands(), QStringList{"chflags|nohidden|a"});
+        QCOMPARE(Sandbox::describe(*w.list()->fileLists()), QString("a:\"1\""));
+        QVERIFY(w.ui.quietLine->isHidden() && w.ui.switchButton->isEnabled());
+        QVERIFY(w.list()->canDragDrop() && w.ui.addMenuItem->isEnabled());
+    }
+
     void staysUsableAfterADropThatFailed() {
         Sandbox sandbox;
         const QStringList paths = sandbox.makeFiles({"a", "b", "c"});

@@ -69,7 +69,9 @@ private slots:
     void listOfAnotherTypeIsSetAsideBeforeItIsReplaced();
     void damagedFileIsSetAside_data();
     void damagedFileIsSetAside();
-    void unreadableFileIsSetAside();
+    void unreadableStoreIsLeftAlone_data();
+    void unreadableStoreIsLeftAlone();
+    void missingFileGivesWayToTheCopy();
     void damagedFileThatCannotBeSetAsideIsNotReplaced();
     void failedSaveLeavesTheOldFile_data();
     void failedSaveLeavesTheOldFile();

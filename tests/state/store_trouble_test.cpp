@@ -76,18 +76,67 @@ void StoreTest::damagedFileIsSetAside() {
     QCOMPARE(otherFiles().filter("defaults.json.bak.2").size(), 1);
 }
 
-void StoreTest::unreadableFileIsSetAside() {
-    write(file_, R"({"password":"old"})");
+void StoreTest::unreadableStoreIsLeftAlone_data() {
+    QTest::addColumn<QString>("path");
+    QTest::newRow("file") << "defaults.json";
+    QTest::newRow("copy of a damaged file") << "defaults.json.bak";
+    QTest::newRow("folder") << ".";
+    QTest::newRow("folder that is a link to a disk that is not there") << "link";
+}
+
+void StoreTest::unreadableStoreIsLeftAlone() {
+    QFETCH(QString, path);
+    const QString disk = folder_->filePath("disk");
+    const bool linked = path == "link";
+    const QString file = linked ? folder_->filePath("link/defaults.json") : file_;
+    const QString away = folder_->filePath("away");
+    if (linked) {
+        QVERIFY(QDir().mkdir(disk) && QFile::link(disk, folder_->filePath("link")));
+    }
+    write(file, path.endsWith(".bak") ? "{" : R"({"password":"old"})");
+    write(file + ".bak", R"({"password":"copy"})");
+    const QByteArray closed =
+        QFile::encodeName(path == "." ? folder_->path() : folder_->filePath(path));
+    const auto close = [&] {
+        QVERIFY(linked ? QFile::rename(disk, away) : ::chmod(closed.constData(), 0) == 0);
+    };
+    const auto open = [&] {
+        QVERIFY(linked ? QFile::rename(away, disk) : ::chmod(closed.constData(), 0700) == 0);
+    };
+    const auto use = [&] {
+        UserDefaults defaults(file);
+        QSignalSpy told(&defaults, &UserDefaults::problemChanged);
+        QVERIFY(!defaults.isRead());
+        QVERIFY(defaults.problem().contains("cannot be read"));
+        defaults.setObject("new", passwordKey);
+        QVERIFY(!defaults.objectForKey(passwordKey).isValid());
+        QVERIFY(defaults.synchronize() && !defaults.readAgain());
+        open();
+        QVERIFY(defaults.readAgain() && !told.isEmpty());
+        QCOMPARE(defaults.objectForKey(passwordKey), path.endsWith(".bak") ? "copy" : "old");
+        defaults.setObject("new", passwordKey);
+        QVERIFY(defaults.synchronize());
+    };
+    if (linked) {
+        close();
+        use();
+    } else {
+        asOrdinaryUser(S_IRWXU, {file, file + ".bak"}, [&] {
+            close();
+            use();
+        });
+    }
+    QCOMPARE(readStore(file).contents.value(passwordKey), "new");
+}
+
+void StoreTest::missingFileGivesWayToTheCopy() {
     write(file_ + ".bak", R"({"password":"copy"})");
-    QVERIFY(::chmod(QFile::encodeName(file_).constData(), 0) == 0);
-    // For the superuser, the file of somebody else: one that takes no second link.
-    asOrdinaryUser(S_IRWXU, {file_ + ".bak"}, [&] {
+    {
         const UserDefaults defaults(file_);
         QCOMPARE(defaults.objectForKey(passwordKey), "copy");
-        QVERIFY(defaults.problem().contains(file_ + ".2"));
-    });
-    QCOMPARE(otherFiles().size(), 1);
-    QCOMPARE(modeOf(folder_->filePath(otherFiles().first())), 0U);
+        QVERIFY(defaults.problem().contains("were missing"));
+    }
+    QCOMPARE(readStore(file_).contents.value(passwordKey), "copy");
     QCOMPARE(UserDefaults(file_).problem(), QString());
 }
 
