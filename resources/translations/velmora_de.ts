@@ -8,10 +8,6 @@
         <translation>%1 um %2</translation>
     </message>
     <message>
-        <source>Press %1 in %2 to see the change.</source>
-        <translation>Drücken Sie %1 in %2, um die Änderung zu sehen.</translation>
-    </message>
-    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>
@@ -355,7 +351,11 @@ aus dem Dateimanager hierher ziehen</translation>
     </message>
 </context>
 <context>
-    <name>ItemVisibility</name>
+    <name>QuietLine</name>
+    <message>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>Drücken Sie %1 in %2, um die Änderung zu sehen.</translation>
+    </message>
     <message>
         <source>its path holds an apostrophe, which the command cannot take.</source>
         <translation>Der Pfad enthält einen Apostroph, den der Befehl nicht annimmt.</translation>

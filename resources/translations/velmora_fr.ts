@@ -8,10 +8,6 @@
         <translation>%1 à %2</translation>
     </message>
     <message>
-        <source>Press %1 in %2 to see the change.</source>
-        <translation>Appuyez sur %1 dans %2 pour voir le changement.</translation>
-    </message>
-    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>
@@ -355,7 +351,11 @@ depuis votre gestionnaire de fichiers</translation>
     </message>
 </context>
 <context>
-    <name>ItemVisibility</name>
+    <name>QuietLine</name>
+    <message>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>Appuyez sur %1 dans %2 pour voir le changement.</translation>
+    </message>
     <message>
         <source>its path holds an apostrophe, which the command cannot take.</source>
         <translation>son chemin contient une apostrophe, que la commande n’accepte pas.</translation>

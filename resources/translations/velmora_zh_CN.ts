@@ -8,10 +8,6 @@
         <translation>%1 %2</translation>
     </message>
     <message>
-        <source>Press %1 in %2 to see the change.</source>
-        <translation>请在 %2 中按 %1 查看更改。</translation>
-    </message>
-    <message>
         <source>uQy-DD-JDr.title</source>
         <translation>Velmora</translation>
     </message>
@@ -355,7 +351,11 @@
     </message>
 </context>
 <context>
-    <name>ItemVisibility</name>
+    <name>QuietLine</name>
+    <message>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>请在 %2 中按 %1 查看更改。</translation>
+    </message>
     <message>
         <source>its path holds an apostrophe, which the command cannot take.</source>
         <translation>路径中含有单引号，命令无法处理。</translation>

@@ -2,29 +2,20 @@
 
 #include <QCoreApplication>
 #include <QDialog>
-#include <QEvent>
 
-#include "platform/application.h"
 #include "platform/bundle.h"
 #include "ui_AboutPanelController.h"
 
-AboutPanelController::AboutPanelController() = default;
-AboutPanelController::~AboutPanelController() = default;
-
-QWidget* AboutPanelController::window() {
-    if (window_) {
-        return window_.get();
-    }
+std::unique_ptr<QWidget> AboutPanelController::loadWindow() {
     const auto text = [](const char* key) {
         return Bundle::localizedString(QString::fromUtf8(key),
                                        QStringLiteral("AboutPanelController"));
     };
-    window_ = std::make_unique<QDialog>();
-    window_->installEventFilter(this);
+    auto window = std::make_unique<QDialog>();
     Ui::AboutPanelController ui;
-    ui.setupUi(window_.get());
+    ui.setupUi(window.get());
     ui.iconView->setPixmap(Bundle::imageNamed(QStringLiteral("velmora"))
-                               .pixmap(QSize(128, 128), window_->devicePixelRatioF()));
+                               .pixmap(QSize(128, 128), window->devicePixelRatioF()));
     QFont nameFont = ui.nameLabel->font();
     nameFont.setBold(true);
     nameFont.setPointSizeF(nameFont.pointSizeF() * 1.6);
@@ -34,18 +25,5 @@ QWidget* AboutPanelController::window() {
     ui.descriptionLabel->setText(
         text("Hides files and folders from the file manager, and shows them again."));
     ui.copyrightLabel->setText(text("Copyright © 2026 The Velmora developers"));
-    windowDidLoad();
-    return window_.get();
-}
-
-bool AboutPanelController::windowShouldClose() {
-    Application::stopModal();
-    return true;
-}
-
-bool AboutPanelController::eventFilter(QObject* object, QEvent* event) {
-    if (object == window_.get() && event->type() == QEvent::Close) {
-        return !windowShouldClose();
-    }
-    return QObject::eventFilter(object, event);
+    return window;
 }

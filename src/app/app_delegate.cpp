@@ -1,16 +1,16 @@
 #include "app/app_delegate.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QMessageBox>
 
 #include "app/about_panel_controller.h"
 #include "app/help_address.h"
 #include "app/rd_show_message_text_window_controller.h"
-#include "platform/application.h"
 #include "platform/notification_center.h"
 #include "platform/notification_names.h"
 #include "platform/workspace.h"
 #include "preferences/rd_two_window_controller.h"
-#include "ui_Main.h"
 
 namespace {
 
@@ -22,12 +22,12 @@ void showDocument(bool licenseAgreement) {
     RDShowMessageTextWindowController controller;
     controller.licenseAgreement = licenseAgreement;
     controller.ackNowleDgments = !licenseAgreement;
-    Application::runModalForWindow(controller.window());
+    controller.runModal();
 }
 
 }  // namespace
 
-AppDelegate::AppDelegate(const Ui::Main& outlets, QObject* parent)
+AppDelegate::AppDelegate(const MenuOutlets& outlets, QObject* parent)
     : QObject(parent), outlets_(outlets) {
     connectActions();
 }
@@ -99,12 +99,12 @@ void AppDelegate::preferencesAction(QAction* /*sender*/) {
     RDTwoWindowController controller;
     controller.setting = true;
     controller.settingH = true;
-    Application::runModalForWindow(controller.window());
+    controller.runModal();
 }
 
 void AppDelegate::ordeAboutPanelAction(QAction* /*sender*/) {
     AboutPanelController controller;
-    Application::runModalForWindow(controller.window());
+    controller.runModal();
 }
 
 void AppDelegate::ackNowleDgments_touch(QAction* /*sender*/) {

@@ -2,10 +2,7 @@
 
 #include <QObject>
 
-class QAction;
-namespace Ui {
-class Main;
-}
+#include "app/menu_outlets.h"
 
 /// The application's delegate: it owns the menu outlets and turns each menu command into a
 /// notification that the main view controller handles, or into a window of its own.
@@ -13,11 +10,9 @@ class AppDelegate final : public QObject {
     Q_OBJECT
 
 public:
-    /// `outlets`: the loaded interface file "Main" with the menus and their items; must outlive
-    /// the delegate.
-    explicit AppDelegate(const Ui::Main& outlets, QObject* parent = nullptr);
+    explicit AppDelegate(const MenuOutlets& outlets, QObject* parent = nullptr);
 
-    const Ui::Main& outlets() const { return outlets_; }
+    const MenuOutlets& outlets() const { return outlets_; }
 
     void addmeaunItem_touch(QAction* sender);
     void hidemeaunItem_touch(QAction* sender);
@@ -50,5 +45,5 @@ public:
 private:
     void connectActions();
 
-    const Ui::Main& outlets_;
+    MenuOutlets outlets_;
 };

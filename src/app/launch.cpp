@@ -1,16 +1,12 @@
 #include "app/launch.h"
 
-#include <QMainWindow>
 #include <QSessionManager>
 #include <QTimer>
 
-#include "app/app_delegate.h"
-#include "app/rd_window_controller.h"
-#include "app/view_controller.h"
+#include "app/main_window.h"
 #include "controls/accessible_buttons.h"
 #include "controls/velmora_style.h"
 #include "list/accessible_items.h"
-#include "platform/after_paint.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
 #include "platform/log.h"
@@ -18,22 +14,8 @@
 #include "platform/single_instance.h"
 #include "platform/termination_signals.h"
 #include "state/user_defaults.h"
-#include "ui_Main.h"
 
 namespace {
-
-constexpr int latestAfterwards = 1000;  // milliseconds
-
-void bringForward(QMainWindow& window, const QByteArray& token) {
-    if (!token.isEmpty()) {
-        qputenv("XDG_ACTIVATION_TOKEN", token);
-    }
-    if (window.isMinimized()) {
-        window.showNormal();
-    }
-    window.raise();
-    window.activateWindow();
-}
 
 void prepare() {
     QApplication::setApplicationName(QStringLiteral("velmora"));
@@ -48,13 +30,13 @@ void prepare() {
         QApplication::setStyle(new VelmoraStyle);
     }
     Bundle::loadTranslations();
+    QApplication::setWindowIcon(Bundle::imageNamed(QStringLiteral("velmora")));
     Shell::setCompanionsFolder(Shell::defaultCompanionsFolder());
     installAccessibleButtons();
     installAccessibleItems();
 }
 
 int run(Application& application) {
-    prepare();
     SingleInstance instance(UserDefaults::fileBeside(QStringLiteral("instance.lock")));
     if (!instance.isFirst()) {
         if (!instance.activateFirst()) {
@@ -63,16 +45,8 @@ int run(Application& application) {
         return 0;
     }
     UserDefaults defaults(UserDefaults::standardFile());
-    QMainWindow window;
-    Ui::Main outlets;
-    outlets.setupUi(&window);
-    AppDelegate delegate(outlets);
-    RDWindowController windowController(&window);
-    ViewController viewController(&window, delegate);
-    QObject::connect(&windowController, &RDWindowController::itemHidden, &viewController,
-                     &ViewController::tellFileManagers);
-    windowController.windowDidLoad();
-    viewController.viewDidLoad();
+    MainWindow window;
+    window.load();
     window.show();
 
     // Ended from outside, the program stores everything but does not run the quit pass.
@@ -82,18 +56,10 @@ int run(Application& application) {
     QObject::connect(
         &application, &QGuiApplication::commitDataRequest, &defaults,
         [&defaults] { defaults.synchronize(); }, Qt::DirectConnection);
-    QObject::connect(&instance, &SingleInstance::activationRequested, &window,
-                     [&window](const QByteArray& token) { bringForward(window, token); });
-    // What nobody waits for before the window is there. One that starts out of sight has it later.
-    QTimer afterwards;
-    afterwards.setSingleShot(true);
-    QObject::connect(&afterwards, &QTimer::timeout, &instance, [&instance] {
-        QApplication::setWindowIcon(Bundle::imageNamed(QStringLiteral("velmora")));
-        instance.listen();
-    });
-    afterwards.start(latestAfterwards);
-    AfterPaint firstPaint(&window, [&afterwards] { afterwards.start(0); });
-    firstPaint.request();
+    QObject::connect(&instance, &SingleInstance::activationRequested, &window.window(),
+                     [&window](const QByteArray& token) { window.bringForward(token); });
+    // The window need not wait for its name on the bus.
+    QTimer::singleShot(0, &instance, &SingleInstance::listen);
     const int status = QApplication::exec();
     defaults.synchronize();
     return status;
@@ -101,13 +67,11 @@ int run(Application& application) {
 
 }  // namespace
 
-int launch(int argc, char** argv, const std::function<void()>& watch) {
+int launch(int argc, char** argv) {
     Log::install();
     // Before the application object, which would make the desktop's own style otherwise.
     QApplication::setStyle(new VelmoraStyle);
     Application application(argc, argv);
-    if (watch) {
-        watch();
-    }
+    prepare();
     return run(application);
 }

@@ -1,7 +1,6 @@
 #include "app/rd_show_message_text_window_controller.h"
 
 #include <QDialog>
-#include <QEvent>
 #include <QFile>
 #include <QTextBrowser>
 
@@ -9,28 +8,21 @@
 #include "platform/bundle.h"
 #include "ui_RDShowMessageTextWindowController.h"
 
-RDShowMessageTextWindowController::RDShowMessageTextWindowController() = default;
-RDShowMessageTextWindowController::~RDShowMessageTextWindowController() = default;
-
-QWidget* RDShowMessageTextWindowController::window() {
-    if (!window_) {
-        window_ = std::make_unique<QDialog>();
-        Ui::RDShowMessageTextWindowController ui;
-        ui.setupUi(window_.get());
-        messageTextView_ = ui.messageTextView;
-        messageTextView_->document()->setDocumentMargin(20);
-        connect(ui.closeButton, &QPushButton::clicked, this,
-                &RDShowMessageTextWindowController::cancelAction);
-        window_->installEventFilter(this);
-        windowDidLoad();
-    }
-    return window_.get();
+std::unique_ptr<QWidget> RDShowMessageTextWindowController::loadWindow() {
+    auto window = std::make_unique<QDialog>();
+    Ui::RDShowMessageTextWindowController ui;
+    ui.setupUi(window.get());
+    messageTextView_ = ui.messageTextView;
+    messageTextView_->document()->setDocumentMargin(20);
+    connect(ui.closeButton, &QPushButton::clicked, this,
+            &RDShowMessageTextWindowController::cancelAction);
+    return window;
 }
 
 void RDShowMessageTextWindowController::windowDidLoad() {
     // The documents are rich text; the build turns them into what the text view reads.
     const auto show = [this](const QString& name, const char* title) {
-        window_->setWindowTitle(Bundle::localizedString(
+        window()->setWindowTitle(Bundle::localizedString(
             QLatin1String(title), QStringLiteral("RDShowMessageTextWindowController")));
         QFile document(Bundle::pathForResource(name, QStringLiteral("html")));
         if (document.open(QIODevice::ReadOnly)) {
@@ -48,16 +40,4 @@ void RDShowMessageTextWindowController::windowDidLoad() {
 void RDShowMessageTextWindowController::cancelAction() {
     window()->close();
     Application::stopModal();
-}
-
-bool RDShowMessageTextWindowController::windowShouldClose() {
-    Application::stopModal();
-    return true;
-}
-
-bool RDShowMessageTextWindowController::eventFilter(QObject* object, QEvent* event) {
-    if (object == window_.get() && event->type() == QEvent::Close) {
-        return !windowShouldClose();
-    }
-    return QObject::eventFilter(object, event);
 }

@@ -3,20 +3,19 @@
 #include <QEvent>
 #include <QMainWindow>
 
-#include "hiding/command_lines.h"
+#include "hiding/hiding.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
-#include "platform/shell.h"
 #include "state/preference_keys.h"
 #include "state/user_defaults.h"
 
-RDWindowController::RDWindowController(QMainWindow* window, QObject* parent)
-    : QObject(parent), window_(window) {}
+RDWindowController::RDWindowController(QMainWindow& window, Hiding& hiding, QObject* parent)
+    : QObject(parent), window_(window), hiding_(hiding) {}
 
 void RDWindowController::windowDidLoad() {
-    window_->setWindowTitle(
+    window_.setWindowTitle(
         Bundle::localizedString(QStringLiteral("uQy-DD-JDr.title"), QStringLiteral("Main")));
-    window_->installEventFilter(this);
+    window_.installEventFilter(this);
 }
 
 void RDWindowController::closeApplication() {
@@ -28,13 +27,7 @@ void RDWindowController::closeApplication() {
     if (preference(Preference::MakeInvisibleOnQuit)) {
         // On the stored list, not the window's working copy: the two agree.
         ItemList list = defaults.itemList().value_or(ItemList());
-        for (qsizetype index = 0; index < list.size(); ++index) {
-            ItemRecord record = list.at(index);
-            record.setVisible(VisibleForm::StringZero);
-            list.replace(index, record);
-            Shell::run(command_lines::hideAtQuit(record.filePath()));
-            emit itemHidden(record.filePath());
-        }
+        hiding_.hideAtQuit(list);
         defaults.setItemList(list);
     }
     Application::terminate();
@@ -46,7 +39,7 @@ bool RDWindowController::windowShouldClose() {
 }
 
 bool RDWindowController::eventFilter(QObject* object, QEvent* event) {
-    if (object == window_ && event->type() == QEvent::Close) {
+    if (object == &window_ && event->type() == QEvent::Close) {
         event->ignore();
         if (windowShouldClose()) {
             closeApplication();

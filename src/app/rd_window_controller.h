@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+class Hiding;
 class QMainWindow;
 
 /// The main window's controller: its title and the quit path.
@@ -9,7 +10,8 @@ class RDWindowController final : public QObject {
     Q_OBJECT
 
 public:
-    explicit RDWindowController(QMainWindow* window, QObject* parent = nullptr);
+    /// Both must outlive the controller.
+    RDWindowController(QMainWindow& window, Hiding& hiding, QObject* parent = nullptr);
 
     /// Titles the window and binds its close button to closeApplication().
     void windowDidLoad();
@@ -20,14 +22,11 @@ public:
     /// Ends the modal loop that is running, if any; the window may close.
     bool windowShouldClose();
 
-signals:
-    /// The quit pass has hidden the item, as far as the command could.
-    void itemHidden(const QString& path);
-
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
-    QMainWindow* window_;
+    QMainWindow& window_;
+    Hiding& hiding_;
     bool closing_ = false;
 };

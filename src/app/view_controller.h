@@ -4,42 +4,57 @@
 
 #include <QObject>
 
-#include "app/quiet_line.h"
-#include "hiding/information_pane.h"
 #include "list/drag_drop_view.h"
-#include "platform/file_manager_refresh.h"
-#include "platform/item_visibility.h"
-#include "platform/open_panel.h"
 
 class AppDelegate;
-class QMainWindow;
-class RDPasswordViewController;
+class Hiding;
+class InformationPane;
+class ItemAdding;
+class ItemCommands;
+class ItemSwitch;
+class PasswordGate;
+class QFrame;
+class QLabel;
+class QScrollArea;
 class RDSwitchButton;
 class RdCustomButton;
 struct Notification;
-namespace Ui {
-class Main;
-}
 
-/// The main view's controller. Its definitions lie with the concern that they belong to: start-up
-/// and menus in app/, switching, adding and the information pane in hiding/, the password flows
-/// in password/.
+/// The main view's controller: the start of the window, and the one place where menu commands,
+/// controls and the list's reports arrive. It hands them to the part of the program that they
+/// concern.
 class ViewController final : public QObject, public DragDropViewDelegate {
     Q_OBJECT
 
 public:
-    /// `delegate` and the outlets behind it must outlive the controller. `openPanel` is how files
-    /// to add are chosen.
-    ViewController(QMainWindow* window, AppDelegate& delegate, OpenPanel openPanel = runOpenPanel);
+    /// What the start itself touches. Not owned; must outlive the controller, as must the parts.
+    struct Outlets {
+        DragDropView* fileListView;
+        RDSwitchButton* switchButton;
+        RdCustomButton* requirePassword;
+        QScrollArea* textScrollCiew;  // with the introductory text
+        QLabel* textView;
+        QFrame* fileListViewRightLine;
+        QFrame* fileListViewBottomLine;
+        QFrame* itemInfomationLine;
+    };
+    /// What it hands over to.
+    struct Parts {
+        Hiding& hiding;
+        ItemCommands& itemCommands;
+        ItemSwitch& itemSwitch;
+        ItemAdding& itemAdding;
+        InformationPane& informationPane;
+        PasswordGate& passwordGate;
+    };
+    ViewController(const Outlets& outlets, AppDelegate& delegate, const Parts& parts,
+                   QObject* parent = nullptr);
     ~ViewController() override;
 
     /// Builds the main window's state from the store; once, before the window is shown.
     void viewDidLoad();
-
     /// Only passes the object on: the view shows no represented object.
     void setRepresentedObject(const QVariant& object) { setProperty("representedObject", object); }
-    /// Has open file managers look again at an item that was hidden or shown.
-    void tellFileManagers(const QString& path) { refresh_.itemChanged(path); }
 
     // Menus and routing.
     void addNotification();
@@ -50,60 +65,33 @@ public:
     void openmeaunItem(const Notification& notification);
     void removemeaunItem(const Notification& notification);
     void revealInFinderMenuItem(const Notification& notification);
-    void closemeaunItem(const Notification& notification);
+    /// Does nothing, on purpose: the Close command has no effect.
+    void closemeaunItem(const Notification& /*notification*/) {}
 
     // Switching, adding, the information pane.
-    /// The file manager's show-all setting as the shell printed it; no value when that was no
-    /// text.
     std::optional<QString> InvokingShellScript() const;
-    /// Hides or shows the current item. Does not ask the password gate.
     void touchSwitch(RDSwitchButton* sender);
-    /// Folds the information pane, or opens it again.
     void touchEvent(RdCustomButton* sender);
     void addfileList(QObject* sender);
     void selectedTableLists(const ItemRecord* record) override;
     void showOrHideInfomation(const Notification& notification);
 
     // The password gate.
-    /// Whether the user may change the list now.
     bool canEditorItem() const;
     void require_password(RdCustomButton* sender);
-    /// Asks for the password; `sender` may be null.
     void inputRequire_password(RdCustomButton* sender);
     void changePasswordMeunItem(const Notification& notification);
     void changePassword(const Notification& notification);
     void yanzhengPassword(const Notification& notification);
 
-    /// Path of the item last shown or acted upon; the open and reveal commands act on it.
-    QString selectPath() const { return selectPath_; }
+    QString selectPath() const;
 
 private:
     void launchReveal();
-    void dropMissingItems();
-    void loadList();
-    void dressWindow();
-    void connectControls();
-    void connectStandardActions();
-    void setMenuTitles();
-    void setMenuKeys();
-    void resetShowAll() const;
-    void updateItemCommands(bool visible);
-    void updatePasswordCommand();
-    void setPasswordItemTitle();
-    void sayUnreached();
-    void showWhatIsThere();
-    void promptAtLaunch();
-    void presentAsModalWindow(RDPasswordViewController* dialog);
+    void showIntroduction();
 
-    QMainWindow* window_;
-    AppDelegate* appDelegate_ = nullptr;
+    Outlets outlets_;
     AppDelegate& delegate_;
-    const Ui::Main& ui_;
-    OpenPanel openPanel_;
-    InformationPane informationPane_;
-    QuietLine quietLine_;
-    ItemVisibility visibility_;
-    FileManagerRefresh refresh_;
-    QString selectPath_;
-    bool canReSetRequirtPassword_ = false;
+    AppDelegate* appDelegate_ = nullptr;
+    Parts parts_;
 };

@@ -1,13 +1,21 @@
 #include "hiding/information_pane.h"
 
+#include <utility>
+
 #include <QDateTime>
 #include <QLocale>
 
+#include "controls/pane_button.h"
+#include "controls/rd_custom_button.h"
+#include "controls/rd_switch_button.h"
+#include "controls/wrap_label.h"
+#include "hiding/item_commands.h"
+#include "list/drag_drop_view.h"
 #include "platform/bundle.h"
 #include "platform/file_attributes.h"
+#include "platform/notification_center.h"
 #include "platform/workspace.h"
-#include "state/item_record.h"
-#include "ui_Main.h"
+#include "state/readings.h"
 
 namespace {
 
@@ -34,60 +42,96 @@ QString dateText(const QDateTime& date) {
 
 }  // namespace
 
-InformationPane::InformationPane(const Ui::Main& outlets)
-    : outlets_(outlets), lookup_(outlets.fileIconView, [this] { showLookedUp(); }) {}
+InformationPane::InformationPane(const Outlets& outlets, DragDropView& list, ItemCommands& commands,
+                                 std::function<bool()> canEditorItem)
+    : outlets_(outlets),
+      list_(list),
+      commands_(commands),
+      canEditorItem_(std::move(canEditorItem)),
+      icon_(outlets.fileIconView, [this] { showIcon(); }) {
+    QFont bold = outlets_.filleTitle->font();
+    bold.setBold(true);
+    bold.setPointSizeF(bold.pointSizeF() * 1.2);
+    outlets_.filleTitle->setFont(bold);
+}
+
+void InformationPane::selectedTableLists(const ItemRecord* record) {
+    showOrHide();
+    RDSwitchButton* const show = outlets_.switchButton;
+    if (record == nullptr) {
+        clear();
+        show->setImage(QStringLiteral("switch-pressed-right"));
+        list_.reloadData();
+        return;
+    }
+    commands_.setSelectPath(record->filePath());
+    showItem(*record);
+    show->setOn(truthReading(record->visible()));
+    show->setImage(show->on() ? QStringLiteral("switch-pressed-right")
+                              : QStringLiteral("switch-left"));
+    commands_.follow(show->on());
+    commands_.logRemoveItem();
+}
+
+void InformationPane::showOrHide() const {
+    const bool empty = list_.count() == 0;
+    outlets_.customInfoView->setHidden(empty);
+    outlets_.textScrollCiew->setHidden(!empty);
+}
 
 void InformationPane::showItem(const ItemRecord& record) {
-    const QString path = record.filePath();
-    path_ = path;
-    lookup_.request();
-    dressTitle();
-    const auto attributes = attributesOfItem(path);
+    path_ = record.filePath();
+    icon_.request();
+    const auto attributes = attributesOfItem(path_);
     outlets_.filleTitle->setText(record.fileTitle());
-    // The first question for a type reads the system's list of types: not before the first paint.
-    outlets_.kinDescLabel->setText(typesAreRead_ ? Workspace::shared().typeOfFile(path)
-                                                 : QString());
-    outlets_.whereDescLabel->setText(path);
+    outlets_.kinDescLabel->setText(Workspace::shared().typeOfFile(path_));
+    outlets_.whereDescLabel->setText(path_);
     outlets_.sizeDescLabel->setText(sizeText(attributes ? attributes->size : 0));
     outlets_.createdDescLabel->setText(attributes ? dateText(attributes->created) : QString());
     outlets_.modifiedDescLabel->setText(attributes ? dateText(attributes->modified) : QString());
 }
 
-void InformationPane::dressTitle() {
-    // An empty list shows no title, and a font that is not used need not be loaded at the start.
-    if (!outlets_.filleTitle->testAttribute(Qt::WA_SetFont)) {
-        QFont font = outlets_.filleTitle->font();
-        font.setBold(true);
-        font.setPointSizeF(font.pointSizeF() * 1.2);
-        outlets_.filleTitle->setFont(font);
-    }
-}
-
-void InformationPane::showLookedUp() {
-    if (!typesAreRead_) {
-        typesAreRead_ = true;
-        outlets_.kinDescLabel->setText(Workspace::shared().typeOfFile(path_));
-    }
+void InformationPane::showIcon() const {
     const QIcon icon = Workspace::shared().iconForFile(path_);
     outlets_.fileIconView->setPixmap(
         icon.pixmap(QSize(iconSide, iconSide), outlets_.fileIconView->devicePixelRatioF()));
 }
 
 void InformationPane::clear() {
-    lookup_.cancel();
+    icon_.cancel();
     outlets_.fileIconView->clear();
-    for (QLabel* label :
-         {static_cast<QLabel*>(outlets_.filleTitle), static_cast<QLabel*>(outlets_.kinDescLabel),
-          static_cast<QLabel*>(outlets_.whereDescLabel),
-          static_cast<QLabel*>(outlets_.sizeDescLabel),
-          static_cast<QLabel*>(outlets_.createdDescLabel),
-          static_cast<QLabel*>(outlets_.modifiedDescLabel)}) {
+    for (WrapLabel* label :
+         {outlets_.filleTitle, outlets_.kinDescLabel, outlets_.whereDescLabel,
+          outlets_.sizeDescLabel, outlets_.createdDescLabel, outlets_.modifiedDescLabel}) {
         label->setText(QString());
     }
 }
 
-void InformationPane::setLabelsHidden(bool hidden) {
-    const Ui::Main& ui = outlets_;
+void InformationPane::touchEvent(RdCustomButton* sender) const {
+    if (!canEditorItem_() || list_.count() == 0) {
+        return;
+    }
+    commands_.setSelectPath(list_.fileLists()->at(list_.selectRowIndex()).filePath());
+    outlets_.sanjiao->setChecked(sender->on() != 0);
+    const bool fold = sender->on() != 1;
+    sender->setOn(fold ? 1 : 0);
+    sender->setText(fold ? QStringLiteral("       Show item Info")
+                         : QStringLiteral("       Hide item Info"));
+    setLabelsHidden(fold);
+}
+
+void InformationPane::showOrHideInfomation(const Notification& notification) const {
+    if (!canEditorItem_()) {
+        return;
+    }
+    // The pane follows the button's own value, so every such notification toggles it.
+    const bool hidden = notification.userInfo.value(QStringLiteral("hidden")).toBool();
+    outlets_.dianjibutton->setState(hidden ? 1 : 0);
+    touchEvent(outlets_.dianjibutton);
+}
+
+void InformationPane::setLabelsHidden(bool hidden) const {
+    const Outlets& ui = outlets_;
     for (QLabel* label : std::initializer_list<QLabel*>{
              ui.kinTitle, ui.whereTitle, ui.modifiedTitle, ui.createdTitle, ui.sizeTitle,
              ui.kinDescLabel, ui.whereDescLabel, ui.modifiedDescLabel, ui.createdDescLabel,

@@ -1,37 +1,72 @@
 #pragma once
 
+#include <functional>
+
 #include <QString>
 
 #include "platform/after_paint.h"
 
+class DragDropView;
+class ItemCommands;
 class ItemRecord;
+class PaneButton;
 class QLabel;
 class QWidget;
-namespace Ui {
-class Main;
-}
+class RDSwitchButton;
+class RdCustomButton;
+class WrapLabel;
+struct Notification;
 
-/// The information pane: icon, title, kind, place, size and dates of one item.
-class InformationPane {
+/// The information pane beside the list: what is known of the current item. With it go the switch
+/// and the item commands, which follow the same selection report, and the button that folds the
+/// pane.
+class InformationPane final {
 public:
-    /// `outlets`: the loaded interface file "Main"; must outlive the pane.
-    explicit InformationPane(const Ui::Main& outlets);
+    /// Not owned; must outlive the pane.
+    struct Outlets {
+        QWidget* customInfoView;
+        QWidget* textScrollCiew;  // the introductory text, shown in place of the pane
+        QLabel* fileIconView;
+        WrapLabel* filleTitle;
+        QLabel* kinTitle;
+        WrapLabel* kinDescLabel;
+        QLabel* whereTitle;
+        WrapLabel* whereDescLabel;
+        QLabel* sizeTitle;
+        WrapLabel* sizeDescLabel;
+        QLabel* createdTitle;
+        WrapLabel* createdDescLabel;
+        QLabel* modifiedTitle;
+        WrapLabel* modifiedDescLabel;
+        RdCustomButton* dianjibutton;
+        PaneButton* sanjiao;
+        RDSwitchButton* switchButton;
+    };
+    /// `canEditorItem`: whether the list may be changed now. All must outlive the pane.
+    InformationPane(const Outlets& outlets, DragDropView& list, ItemCommands& commands,
+                    std::function<bool()> canEditorItem);
 
-    /// Fills the pane with what is known of the record's item. Of an item that no longer exists
-    /// type and dates stay empty and the size reads zero. The icon follows after the texts,
-    /// and so does the first kind of all.
-    void showItem(const ItemRecord& record);
-    void clear();
-
-    /// Folds the ten labels away, or brings them back; icon and title stay.
-    void setLabelsHidden(bool hidden);
+    /// The selection report; null when nothing is left to be current. Does not ask the password
+    /// gate.
+    void selectedTableLists(const ItemRecord* record);
+    /// Shows the pane while the list has rows, and the introductory text otherwise.
+    void showOrHide() const;
+    /// Folds the pane, or opens it again, by the button's own value. Nothing while the list is
+    /// locked or empty.
+    void touchEvent(RdCustomButton* sender) const;
+    /// The menu's command to do so. Its "hidden" is only what the button shows.
+    void showOrHideInfomation(const Notification& notification) const;
 
 private:
-    void dressTitle();
-    void showLookedUp();
+    void showItem(const ItemRecord& record);
+    void clear();
+    void setLabelsHidden(bool hidden) const;
+    void showIcon() const;
 
-    const Ui::Main& outlets_;
+    Outlets outlets_;
+    DragDropView& list_;
+    ItemCommands& commands_;
+    std::function<bool()> canEditorItem_;
     QString path_;
-    AfterPaint lookup_;
-    bool typesAreRead_ = false;
+    AfterPaint icon_;
 };

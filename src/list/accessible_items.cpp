@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QHash>
+#include <QPointer>
 
 #include "controls/pane_button.h"
 #include "list/drag_drop_table_view.h"

@@ -8,7 +8,6 @@
 #include "platform/notification_center.h"
 #include "platform/notification_names.h"
 #include "platform/workspace.h"
-#include "state/dropped_items.h"
 #include "state/preference_keys.h"
 #include "state/readings.h"
 #include "state/user_defaults.h"
@@ -25,12 +24,6 @@ bool isShown(const ItemRecord& record) {
 }
 
 }  // namespace
-
-void DragDropView::forgetDropped(const QStringList& paths) {
-    if (!paths.isEmpty()) {
-        DroppedItems(UserDefaults::fileBeside(DroppedItems::fileName)).forget(paths);
-    }
-}
 
 DragDropView::DragDropView(QWidget* parent)
     : QWidget(parent),
@@ -70,12 +63,33 @@ void DragDropView::setFileLists(const std::optional<ItemList>& lists) {
     loaded_ = true;
 }
 
+void DragDropView::loadStoredList() {
+    setFileLists(UserDefaults::standardUserDefaults().itemList());
+    topViw_->activateLeftButton();
+    reloadData();
+    selectTableViewCellForRowIndex(0);
+}
+
 void DragDropView::replaceRecord(qsizetype index, const ItemRecord& record) {
     fileLists_.value().replace(index, record);
 }
 
-void DragDropView::removeRecord(qsizetype index) {
-    fileLists_.value().removeAt(index);
+void DragDropView::removeCurrentRecord() {
+    // Before anything is stored: on a list that was never loaded this would store an empty one.
+    if (selectRowIndex_ < 0 || selectRowIndex_ >= count()) {
+        return;
+    }
+    fileLists_->removeAt(selectRowIndex_);
+    reloadData();
+    storeFileLists();
+    showWhatIsThere();
+}
+
+void DragDropView::showWhatIsThere() {
+    if (selectRowIndex_ >= count()) {
+        setSelectRowIndex(static_cast<int>(count()) - 1);
+    }
+    tableView_->reloadData();
 }
 
 void DragDropView::storeFileLists() {
@@ -114,12 +128,9 @@ void DragDropView::addFileList(const QList<ItemRecord>& records) {
     if (!fileLists_) {
         fileLists_.emplace();
     }
-    QStringList paths;
     for (const ItemRecord& record : records) {
         fileLists_->append(record);
-        paths << record.filePath();
     }
-    forgetDropped(paths);
     setSelectRowIndex(static_cast<int>(count()) - 1);
     selectionReport();
     storeFileLists();

@@ -61,14 +61,19 @@ public:
     const std::optional<ItemList>& fileLists() const { return fileLists_; }
     /// Loads the working copy; from now on it may be stored.
     void setFileLists(const std::optional<ItemList>& lists);
+    /// Loads the stored list, makes the title header the active one and the first row current.
+    void loadStoredList();
     /// Whether setFileLists() was called: a list that was never loaded is never stored, so that
     /// no path can write the empty working copy of a locked window over the stored list.
     bool isLoaded() const { return loaded_; }
     qsizetype count() const { return fileLists_ ? fileLists_->size() : 0; }
     /// Puts a record in place of another. Throws RangeException outside the list.
     void replaceRecord(qsizetype index, const ItemRecord& record);
-    /// Removes one record. Throws RangeException outside the list.
-    void removeRecord(qsizetype index);
+    /// The remove command: removes the current record, reloads (which reports) and stores. Nothing
+    /// without a current record.
+    void removeCurrentRecord();
+    /// Shows what is in memory after a handler that failed has shortened the list. Reports nothing.
+    void showWhatIsThere();
     /// Stores the working copy as it stands, sorted order included; nothing while it was never
     /// loaded.
     void storeFileLists();
@@ -128,8 +133,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    /// Their records need no longer be kept among those that a start has dropped.
-    static void forgetDropped(const QStringList& paths);
     void selectionReport();
     void tableSelectionDidChange();
     void sort(const ItemButton* button);

@@ -101,7 +101,6 @@ bool DragDropView::prepareForDragOperation(const QMimeData* mimeData) {
     }
     Log::line(QStringLiteral(">>> ") + describe(*fileLists_));
     storeFileLists();
-    forgetDropped(dropped.paths);
     setSelectRowIndex(std::max(tableView_->selectedRow(), 0));
     selectionReport();
     tableView_->reloadData();

@@ -1,27 +1,35 @@
-#include <QFileInfo>
-#include <QProcess>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
 
 #include "platform/item_visibility.h"
-#include "platform/shell.h"
 
-void ItemVisibility::check(const QString& path, bool askedVisible) {
-    const int number = ++checks_;
-    // The desktop's file library remembers for seconds what it has read: a fresh process asks it.
-    auto* process = new QProcess(this);
-    connect(process, &QProcess::finished, this, [=, this](int status, QProcess::ExitStatus exit) {
-        process->deleteLater();
-        if (number == checks_) {
-            const bool told = exit == QProcess::NormalExit && status == 0;
-            // An item that cannot be looked up is as little visible as hidden.
-            const bool hidden =
-                told ? process->readAllStandardOutput().startsWith("hidden") : askedVisible;
-            answer(path, askedVisible, hidden);
-        }
-    });
-    connect(process, &QProcess::errorOccurred, process, [process](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart) {
-            process->deleteLater();
-        }
-    });
-    process->start(Shell::defaultCompanionsFolder() + QStringLiteral("/visibility"), {path});
+namespace {
+
+// The lines of the list that hides names; none when it is no ordinary file, such as a pipe that
+// would keep its reader waiting.
+QByteArrayList namesHiddenIn(const QByteArray& folder) {
+    const int descriptor =
+        open((folder + ".hidden").constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    struct stat status {};
+    QFile list;
+    if (descriptor < 0 || !list.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle) ||
+        fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        return {};
+    }
+    return list.readAll().split('\n');
+}
+
+}  // namespace
+
+bool isItemHidden(const QString& path) {
+    QByteArray item = QFile::encodeName(path);
+    while (item.size() > 1 && item.endsWith('/')) {
+        item.chop(1);
+    }
+    const qsizetype nameStart = item.lastIndexOf('/') + 1;
+    const QByteArray name = item.sliced(nameStart);
+    return name.startsWith('.') || namesHiddenIn(item.first(nameStart)).contains(name);
 }

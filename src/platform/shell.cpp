@@ -26,6 +26,7 @@ namespace {
 // The environment of the command lines: the program's own with the companions first on PATH. Kept
 // ready, since a launch or quit pass starts one shell for each item.
 std::vector<std::string> environmentEntries;
+QString folderOfCompanions;
 
 std::vector<char*> environmentPointers() {
     std::vector<char*> pointers;
@@ -71,6 +72,7 @@ void waitFor(pid_t child) {
 }  // namespace
 
 void Shell::setCompanionsFolder(const QString& folder) {
+    folderOfCompanions = folder;
     environmentEntries.clear();
     std::string path = "/usr/local/bin:/usr/bin:/bin";
     for (char** entry = environ; *entry != nullptr; ++entry) {
@@ -86,6 +88,10 @@ void Shell::setCompanionsFolder(const QString& folder) {
         ours.append(folder.toStdString()).append(1, ':');
     }
     environmentEntries.push_back(ours.append(path));
+}
+
+QString Shell::companionsFolder() {
+    return folderOfCompanions;
 }
 
 QString Shell::defaultCompanionsFolder() {

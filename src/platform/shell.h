@@ -12,6 +12,8 @@ public:
     /// inherit it); empty for none. Where a system lacks `chflags`, `defaults` and `killall`,
     /// programs of these names stand there.
     static void setCompanionsFolder(const QString& folder);
+    /// The folder that was set last; empty for none.
+    static QString companionsFolder();
     /// The folder that belongs to the running program: `../libexec/velmora` beside its own.
     static QString defaultCompanionsFolder();
 

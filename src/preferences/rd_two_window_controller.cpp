@@ -1,8 +1,9 @@
 #include "preferences/rd_two_window_controller.h"
 
+#include <array>
+
 #include <QActionGroup>
 #include <QCheckBox>
-#include <QEvent>
 #include <QMainWindow>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -59,47 +60,43 @@ void store(int number, Preference preference, const QCheckBox* sender) {
 
 }  // namespace
 
-RDTwoWindowController::RDTwoWindowController() = default;
-RDTwoWindowController::~RDTwoWindowController() = default;
-
-QWidget* RDTwoWindowController::window() {
-    if (!window_) {
-        window_ = std::make_unique<QMainWindow>();
-        ui_ = std::make_unique<Ui::RDTwoWindowController>();
-        ui_->setupUi(window_.get());
-        window_->installEventFilter(this);
-        windowDidLoad();
-    }
-    return window_.get();
+std::unique_ptr<QWidget> RDTwoWindowController::loadWindow() {
+    auto window = std::make_unique<QMainWindow>();
+    Ui::RDTwoWindowController ui;
+    ui.setupUi(window.get());
+    window->setWindowTitle(Bundle::localizedString(QStringLiteral("Preferences"), preferenceTable));
+    general_ = ui.general;
+    general_->setText(Bundle::localizedString(QStringLiteral("General"), preferenceTable));
+    general_->setIcon(Bundle::imageNamed(QStringLiteral("general")));
+    auto* panes = new QActionGroup(window.get());
+    panes->addAction(general_);
+    auto* close = new QShortcut(QKeySequence::Cancel, window.get());
+    connect(close, &QShortcut::activated, this, &RDTwoWindowController::closeWindow);
+    generalView_ = new QWidget(ui.content);
+    generalView_->setObjectName(QStringLiteral("generalView"));
+    auto* content = new QVBoxLayout(ui.content);
+    content->setContentsMargins(0, 0, 0, paneBottom);
+    content->addWidget(generalView_);
+    return window;
 }
 
 void RDTwoWindowController::windowDidLoad() {
-    const QString table = preferenceTable;
-    window_->setWindowTitle(Bundle::localizedString(QStringLiteral("Preferences"), table));
-    ui_->general->setText(Bundle::localizedString(QStringLiteral("General"), table));
-    ui_->general->setIcon(Bundle::imageNamed(QStringLiteral("general")));
-
-    // The frames in options() are the least sizes: a row keeps its place while font and language
-    // allow, and pushes the others down otherwise.
-    generalView_ = new QWidget(window_->centralWidget());
-    generalView_->setObjectName(QStringLiteral("generalView"));
-    auto* content = new QVBoxLayout(window_->centralWidget());
-    content->setContentsMargins(0, 0, 0, paneBottom);
-    content->addWidget(generalView_);
     test1();
-    auto* close = new QShortcut(QKeySequence::Cancel, window_.get());
-    connect(close, &QShortcut::activated, this, &RDTwoWindowController::closeWindow);
-    auto* panes = new QActionGroup(window_.get());
-    panes->addAction(ui_->general);
-    ui_->general->setChecked(true);
+    general_->setChecked(true);
+    addBoxes();
+    window()->adjustSize();
+}
 
+// The frames in options() are the least sizes: a row keeps its place while font and language allow,
+// and pushes the others down otherwise.
+void RDTwoWindowController::addBoxes() {
     auto* rows = new QVBoxLayout(generalView_);
     rows->setContentsMargins(options().front().frame.x(), 0, 20, 0);
     rows->setSpacing(0);
     int top = paneSize.height();
     for (const Option& option : options()) {
-        auto* box = new QCheckBox(Bundle::localizedString(QLatin1String(option.titleKey), table),
-                                  generalView_);
+        auto* box = new QCheckBox(
+            Bundle::localizedString(QLatin1String(option.titleKey), preferenceTable), generalView_);
         box->setObjectName(preferenceName(option.preference));
         box->setMinimumSize(option.frame.size().expandedTo(box->sizeHint()));
         rows->addSpacing(top - (option.frame.y() + option.frame.height()) -
@@ -112,7 +109,6 @@ void RDTwoWindowController::windowDidLoad() {
     }
     rows->addStretch();
     generalView_->setMinimumSize(paneSize.expandedTo(rows->minimumSize()));
-    window_->adjustSize();
 }
 
 void RDTwoWindowController::checkButton1Touch(QCheckBox* sender) {
@@ -132,11 +128,6 @@ void RDTwoWindowController::checkButton4Touch(QCheckBox* sender) {
     NotificationCenter::defaultCenter().postNotification(notification_names::changeCellData);
 }
 
-bool RDTwoWindowController::windowShouldClose() {
-    Application::stopModal();
-    return true;
-}
-
 void RDTwoWindowController::closeWindow() {
     Application::stopModal();
     window()->close();
@@ -144,11 +135,4 @@ void RDTwoWindowController::closeWindow() {
 
 void RDTwoWindowController::test1() {
     generalView_->setHidden(false);
-}
-
-bool RDTwoWindowController::eventFilter(QObject* object, QEvent* event) {
-    if (object == window_.get() && event->type() == QEvent::Close) {
-        return !windowShouldClose();
-    }
-    return QObject::eventFilter(object, event);
 }

@@ -1,40 +1,24 @@
 #pragma once
 
-#include <array>
-#include <memory>
+#include "platform/modal_window_controller.h"
 
-#include <QObject>
-
+class QAction;
 class QCheckBox;
-class QMainWindow;
-class QWidget;
-namespace Ui {
-class RDTwoWindowController;
-}
 
 /// The preferences window: four check boxes on one pane, each written at once when it is clicked.
-/// Made fresh for each showing and run application-modally.
-class RDTwoWindowController final : public QObject {
+class RDTwoWindowController final : public ModalWindowController {
     Q_OBJECT
 
 public:
-    RDTwoWindowController();
-    ~RDTwoWindowController() override;
-
     /// Set by the opener before the window is first asked for; the pane is shown in every case.
     bool setting = false;
     bool settingH = false;
-
-    /// The window, loaded on the first request.
-    QWidget* window();
 
     void checkButton1Touch(QCheckBox* sender);
     void checkButton2Touch(QCheckBox* sender);
     void checkButton3Touch(QCheckBox* sender);
     /// Also posts "changeCellData", so that the list takes the new colours.
     void checkButton4Touch(QCheckBox* sender);
-    /// Ends the modal loop; the window may close.
-    bool windowShouldClose();
     void closeWindow();
     /// An action that does nothing.
     void valueChange() {}
@@ -42,12 +26,12 @@ public:
     void test1();
 
 protected:
-    bool eventFilter(QObject* object, QEvent* event) override;
+    std::unique_ptr<QWidget> loadWindow() override;
+    void windowDidLoad() override;
 
 private:
-    void windowDidLoad();
+    void addBoxes();
 
-    std::unique_ptr<QMainWindow> window_;
-    std::unique_ptr<Ui::RDTwoWindowController> ui_;
+    QAction* general_ = nullptr;
     QWidget* generalView_ = nullptr;
 };

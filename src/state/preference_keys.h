@@ -7,6 +7,8 @@
 inline constexpr QLatin1StringView itemListKey{"fileListView_List"};
 inline constexpr QLatin1StringView passwordKey{"password"};
 inline constexpr QLatin1StringView requirePasswordKey{"requirePassword"};
+/// Records that a start has taken out of the list because nothing was at their paths.
+inline constexpr QLatin1StringView missingItemsKey{"missingItems"};
 
 /// The stored password; null when none is stored (anything but a text is none), which is not the
 /// same as empty.

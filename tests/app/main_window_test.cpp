@@ -1,14 +1,11 @@
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 #include <QTranslator>
 
-#include "app/app_delegate.h"
-#include "app/rd_window_controller.h"
-#include "app/view_controller.h"
+#include "app/main_window.h"
 #include "password/rd_password_view_controller.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
@@ -16,7 +13,6 @@
 #include "platform/notification_names.h"
 #include "preferences/rd_two_window_controller.h"
 #include "sandbox.h"
-#include "state/dropped_items.h"
 #include "state/preference_keys.h"
 #include "ui_Main.h"
 
@@ -24,18 +20,15 @@ namespace {
 
 /// The main window as the program builds it; only the open panel answers by itself.
 struct Window {
-    explicit Window(std::optional<QStringList> chosen = std::nullopt) : answer(std::move(chosen)) {
-        ui.setupUi(&frame);
-        delegate = std::make_unique<AppDelegate>(ui);
-        windowController = std::make_unique<RDWindowController>(&frame);
-        controller = std::make_unique<ViewController>(
-            &frame, *delegate, [this](QWidget*, const OpenPanelRequest& asked) {
-                request = asked;
-                return answer;
-            });
-        windowController->windowDidLoad();
-        controller->viewDidLoad();
-        frame.show();
+    explicit Window(std::optional<QStringList> chosen = std::nullopt)
+        : answer(std::move(chosen)),
+          main([this](QWidget*, const OpenPanelRequest& asked) {
+              request = asked;
+              return answer;
+          }),
+          ui(main.outlets()) {
+        main.load();
+        main.show();
     }
     DragDropView* list() { return ui.fileListView; }
     void press(QAbstractButton* button) { QTest::mouseClick(button, Qt::LeftButton); }
@@ -44,13 +37,10 @@ struct Window {
         item->trigger();
     }
 
-    QMainWindow frame;
-    Ui::Main ui;
-    std::unique_ptr<AppDelegate> delegate;
-    std::unique_ptr<RDWindowController> windowController;
-    std::unique_ptr<ViewController> controller;
     std::optional<QStringList> answer;
     OpenPanelRequest request;
+    MainWindow main;
+    const Ui::Main& ui;
 };
 
 /// Answers a translation in place of a shipped table.
@@ -118,17 +108,17 @@ private slots:
         QCOMPARE(sandbox.commands(),
                  QStringList({"chflags|nohidden|b c", "chflags|nohidden|/nowhere/x",
                               "chflags|nohidden|a"}));
+        QCOMPARE(sandbox.told(), QStringList({"b c", "/nowhere/x", "a"}));
         QCOMPARE(sandbox.stored(), QString("a:\"1\" b c:\"1\""));
-        QCOMPARE(DroppedItems(UserDefaults::fileBeside(DroppedItems::fileName)).records().size(),
-                 1);
+        QCOMPARE(sandbox.missing(), QString("x:\"1\""));
         QCOMPARE(w.list()->count(), 0);
         QCOMPARE(w.ui.requirePassword->state(), 1);
         QVERIFY(!w.ui.passwordMeunItem->isEnabled());
         // No way in may write the empty working copy over the stored list.
         w.ui.fileListView->setCanDragDrop(true);
         drop(*w.list(), {paths.at(0)});
-        w.delegate->removemeaunItem_touch(nullptr);
-        w.delegate->addmeaunItem_touch(nullptr);
+        w.main.delegate().removemeaunItem_touch(nullptr);
+        w.main.delegate().addmeaunItem_touch(nullptr);
         QCOMPARE(sandbox.stored(), QString("a:\"1\" b c:\"1\""));
     }
 
@@ -173,6 +163,7 @@ private slots:
         QCOMPARE(
             sandbox.commands(),
             QStringList({"defaults|read|com.apple.finder|AppleShowAllFiles", "chflags|hidden|b"}));
+        QCOMPARE(sandbox.told(), QStringList{"b"});
         QCOMPARE(sandbox.stored(), QString("a:\"1\" b:\"0\""));
         QCOMPARE(w.ui.hideMenuItem->text(), QString("Show"));
         QVERIFY(!w.ui.openMenuItem->isEnabled() && !w.ui.revealInFinderMenuItem->isEnabled() &&
@@ -180,6 +171,7 @@ private slots:
         QCOMPARE(w.ui.switchButton->imageName(), QString("switch-left"));
         w.choose(w.ui.hideMenuItem);
         QCOMPARE(sandbox.commands().last(), QString("chflags|nohidden|b"));
+        QCOMPARE(sandbox.told(), QStringList{"b"});
         QCOMPARE(w.ui.hideMenuItem->text(), QString("Hide"));
         QVERIFY(w.ui.removeMenuItem->isEnabled());
         QTest::keyClick(w.ui.switchButton, Qt::Key_Space);
@@ -244,7 +236,7 @@ private slots:
         QVERIFY(!w.ui.removeMenuItem->isEnabled() && !w.ui.openMenuItem->isEnabled());
         w.choose(w.ui.hideMenuItem);
         w.choose(w.ui.closeMenuItem);
-        QVERIFY(w.frame.isVisible());
+        QVERIFY(w.main.window().isVisible());
     }
 
     void staysUsableAfterADropThatFailed() {
@@ -272,9 +264,9 @@ private slots:
     void deletesInATextField() {
         Sandbox sandbox;
         Window w;
-        QLineEdit field("abc", &w.frame);
+        QLineEdit field("abc", &w.main.window());
         field.show();
-        QApplication::setActiveWindow(&w.frame);
+        QApplication::setActiveWindow(&w.main.window());
         field.setFocus();
         QTRY_VERIFY(field.hasFocus());
         field.selectAll();
@@ -287,11 +279,58 @@ private slots:
         sandbox.storeList(sandbox.makeFiles({"a", "b c", "d"}));
         setPreference(Preference::MakeInvisibleOnQuit, true);
         Window w;
-        w.frame.close();
+        w.main.window().close();
         w.choose(w.ui.quitVelmoraMenuItem);
         QCOMPARE(sandbox.commands(),
                  QStringList({"chflags|hidden|a", "chflags|hidden|b|c", "chflags|hidden|d"}));
         QCOMPARE(sandbox.stored(), QString("a:\"0\" b c:\"0\" d:\"0\""));
+        QCOMPARE(sandbox.told(), QStringList({"a", "b c", "d"}));
+    }
+
+    void saysWhatBecameOfTheItem() {
+        Sandbox sandbox;
+        const QStringList paths = sandbox.makeFiles({"a", "it's", "line\nbreak"});
+        sandbox.storeList(paths);
+        Window w;
+        const auto said = [&w](int row) {
+            w.list()->selectTableViewCellForRowIndex(row);
+            w.press(w.ui.switchButton);
+            return w.ui.quietLine->isVisible() ? w.ui.quietLine->text() : QString();
+        };
+        // The command of this test hides nothing.
+        QCOMPARE(said(0), QString("“a” is still visible: the change was not carried out."));
+        QVERIFY(said(1).endsWith("its path holds an apostrophe, which the command cannot take."));
+        QVERIFY(said(2).startsWith("“line break” is still visible: its name holds a line break"));
+        QCOMPARE(said(0), QString());  // to be shown, and it is
+        QVERIFY(w.ui.quietLine->isHidden());
+        QFile hidden(sandbox.folder() + "/files/.hidden");
+        QVERIFY(hidden.open(QIODevice::WriteOnly) && hidden.write("A\n\na\nb") == 6);
+        hidden.close();
+        QCOMPARE(said(0), QString());  // to be hidden, and it is
+        QCOMPARE(said(0), QString("“a” is still hidden: the change was not carried out."));
+        QVERIFY(QFile::remove(paths.at(0)));
+        QCOMPARE(said(0), QString("“a” no longer exists."));
+    }
+
+    void remembersWhatIsMissingUntilItIsListedAgain() {
+        Sandbox sandbox;
+        const QStringList paths = sandbox.makeFiles({"a", "b"});
+        const auto start = [&] { Window w; };
+        sandbox.storeList(paths);
+        start();
+        QVERIFY(!sandbox.defaults().objectForKey(missingItemsKey).isValid());
+        QVERIFY(QFile::remove(paths.at(0)));
+        start();
+        QCOMPARE(sandbox.stored(), QString("b:\"1\""));
+        QCOMPARE(sandbox.missing(), QString("a:\"1\""));
+        start();  // once
+        QCOMPARE(sandbox.missing(), QString("a:\"1\""));
+        sandbox.makeFile("a");
+        sandbox.storeList(paths, VisibleForm::StringZero);
+        QVERIFY(QFile::remove(paths.at(1)));
+        start();
+        QCOMPARE(sandbox.stored(), QString("a:\"0\""));
+        QCOMPARE(sandbox.missing(), QString("b:\"0\""));
     }
 
     void reportsFromThePasswordDialogInOrder() {
@@ -347,7 +386,7 @@ private slots:
         center.postNotification(notification_names::changePassword, {{"passwordvalue", "x"}});
         QCOMPARE(w.list()->count(), 1);  // right text, never saved: loaded, but locked
         center.postNotification(notification_names::verifyPassword, {{"yanzheng", true}});
-        QVERIFY(!w.controller->canEditorItem() && !w.list()->canDragDrop());
+        QVERIFY(!w.main.viewController().canEditorItem() && !w.list()->canDragDrop());
         w.press(w.ui.switchButton);
         QCOMPARE(sandbox.stored(), QString("a:\"0\""));
 

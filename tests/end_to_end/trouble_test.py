@@ -55,8 +55,7 @@ class Trouble(Story):
         self.quit(velmora)
         store = velmora.store()
         self.assertEqual((store["its own"], store["password"]), ({"k": 1}, 12))
-        kept = json.loads((self.home.store.parent / "dropped-items.json").read_text())
-        self.assertEqual(kept["fileListView_List"], lost)
+        self.assertEqual(store["missingItems"], lost)
 
     def test_a_list_of_the_wrong_kind_is_kept_aside(self):
         self.home.seed(fileListView_List="text")

@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "platform/shell.h"
+#include "state/preference_keys.h"
 
 namespace {
 
@@ -35,6 +36,11 @@ Sandbox::Sandbox() {
         writeScript(folder() + QStringLiteral("/commands/") + QLatin1String(name),
                     script.arg(folder(), QLatin1String(name)));
     }
+    // Takes the items as they come, and shows them once they are whole.
+    writeScript(folder() + QStringLiteral("/commands/refresh"),
+                QStringLiteral("#!/bin/sh\n{ for path; do echo \"$path\"; done; tr '\\0' '\\n'; } "
+                               ">'%1/telling' && mv '%1/telling' '%1/told'\n")
+                    .arg(folder()));
     Shell::setCompanionsFolder(folder() + QStringLiteral("/commands"));
     defaults_ = std::make_unique<UserDefaults>(UserDefaults::standardFile());
     Q_ASSERT(UserDefaults::standardFile().startsWith(folder()));
@@ -58,8 +64,8 @@ QStringList Sandbox::makeFiles(const QStringList& names) const {
     return paths;
 }
 
-QStringList Sandbox::commands() const {
-    QFile record(folder() + QStringLiteral("/record"));
+QStringList Sandbox::takeLines(const QString& name) const {
+    QFile record(folder() + u'/' + name);
     if (!record.open(QIODevice::ReadOnly)) {
         return {};
     }
@@ -67,6 +73,15 @@ QStringList Sandbox::commands() const {
     lines.replaceInStrings(folder() + QStringLiteral("/files/"), QString());
     record.remove();
     return lines;
+}
+
+QStringList Sandbox::commands() const {
+    return takeLines(QStringLiteral("record"));
+}
+
+QStringList Sandbox::told() const {
+    [this] { QTRY_VERIFY(QFile::exists(folder() + QStringLiteral("/told"))); }();
+    return takeLines(QStringLiteral("told"));
 }
 
 void Sandbox::setShowAllOutput(const QString& text) const {
@@ -90,6 +105,10 @@ void Sandbox::storeList(const QStringList& paths, VisibleForm form) {
 QString Sandbox::stored() const {
     const auto list = defaults_->itemList();
     return list ? describe(*list) : QStringLiteral("absent");
+}
+
+QString Sandbox::missing() const {
+    return describe(ItemList::fromVariantList(defaults_->objectForKey(missingItemsKey).toList()));
 }
 
 QString Sandbox::describe(const ItemList& list) {

@@ -23,6 +23,8 @@ public:
     QStringList makeFiles(const QStringList& names) const;
     /// The commands that the shell was given since the last call, "chflags|hidden|/a b" each.
     QStringList commands() const;
+    /// Waits for what the file managers are told next: the names of the changed items, in order.
+    QStringList told() const;
     /// What `defaults read` prints from now on.
     void setShowAllOutput(const QString& text) const;
     /// Log lines since the last call.
@@ -32,9 +34,13 @@ public:
     void storeList(const QStringList& paths, VisibleForm form = VisibleForm::StringOne);
     /// The stored list as "title:form" ("a.txt:\"1\"", "b.txt:1"), for comparing.
     QString stored() const;
+    /// The same of the records that a start has found missing.
+    QString missing() const;
     static QString describe(const ItemList& list);
 
 private:
+    QStringList takeLines(const QString& name) const;
+
     QTemporaryDir folder_;
     std::unique_ptr<UserDefaults> defaults_;
 };

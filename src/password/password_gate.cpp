@@ -1,7 +1,10 @@
-#include <QMainWindow>
+#include "password/password_gate.h"
 
-#include "app/view_controller.h"
+#include <QAction>
+#include <QTimer>
+
 #include "controls/rd_custom_button.h"
+#include "list/drag_drop_view.h"
 #include "password/rd_password_view_controller.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
@@ -10,9 +13,10 @@
 #include "state/preference_keys.h"
 #include "state/readings.h"
 #include "state/user_defaults.h"
-#include "ui_Main.h"
 
 namespace {
+
+constexpr int promptDelay = 1000;  // milliseconds
 
 QVariant stored(const QString& key) {
     return UserDefaults::standardUserDefaults().objectForKey(key);
@@ -33,16 +37,19 @@ bool flag(const Notification& notification, const char* key) {
 
 }  // namespace
 
-bool ViewController::canEditorItem() const {
+PasswordGate::PasswordGate(const Outlets& outlets, QObject* parent)
+    : QObject(parent), outlets_(outlets) {}
+
+bool PasswordGate::canEditorItem() const {
     if (isPasswordStored() && integerReading(stored(requirePasswordKey)) == 1) {
         return canReSetRequirtPassword_;
     }
     return true;
 }
 
-void ViewController::require_password(RdCustomButton* sender) {
+void PasswordGate::require_password(RdCustomButton* sender) {
     if (!isPasswordStored()) {
-        auto* dialog = new RDPasswordViewController(window_);
+        RDPasswordViewController* const dialog = makeDialog();
         dialog->setPassword = true;
         sender->setState(0);
         sender->setOn(0);
@@ -54,8 +61,8 @@ void ViewController::require_password(RdCustomButton* sender) {
     }
 }
 
-void ViewController::inputRequire_password(RdCustomButton* sender) {
-    auto* dialog = new RDPasswordViewController(window_);
+void PasswordGate::inputRequire_password(RdCustomButton* sender) {
+    RDPasswordViewController* const dialog = makeDialog();
     dialog->yanzheng = true;
     if (sender != nullptr) {
         sender->setOn(1);
@@ -64,63 +71,77 @@ void ViewController::inputRequire_password(RdCustomButton* sender) {
     presentAsModalWindow(dialog);
 }
 
-void ViewController::changePasswordMeunItem(const Notification& /*notification*/) {
-    auto* dialog = new RDPasswordViewController(window_);
+void PasswordGate::changePasswordMeunItem(const Notification& /*notification*/) {
+    RDPasswordViewController* const dialog = makeDialog();
     dialog->setPassword = true;
     dialog->setNewPassword = isPasswordStored();
     presentAsModalWindow(dialog);
 }
 
-void ViewController::promptAtLaunch() {
-    // Whoever pressed the protection switch meanwhile has been asked, or is being asked, already.
-    if (!canEditorItem() && window_->findChild<RDPasswordViewController*>() == nullptr) {
-        inputRequire_password(nullptr);
-    }
+void PasswordGate::askSoon() {
+    QTimer::singleShot(promptDelay, this, [this] {
+        // Whoever pressed the protection switch meanwhile has been asked, or is being asked,
+        // already.
+        if (!canEditorItem() &&
+            outlets_.window->findChild<RDPasswordViewController*>() == nullptr) {
+            inputRequire_password(nullptr);
+        }
+    });
 }
 
-void ViewController::presentAsModalWindow(RDPasswordViewController* dialog) {
+RDPasswordViewController* PasswordGate::makeDialog() const {
+    auto* dialog = new RDPasswordViewController(outlets_.window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->viewDidLoad();
-    Application::presentOver(dialog, window_);
+    return dialog;
 }
 
-void ViewController::changePassword(const Notification& notification) {
+void PasswordGate::presentAsModalWindow(RDPasswordViewController* dialog) const {
+    dialog->viewDidLoad();
+    Application::presentOver(dialog, outlets_.window);
+}
+
+void PasswordGate::changePassword(const Notification& notification) {
     const QVariant typed = notification.userInfo.value(QStringLiteral("passwordvalue"));
     if (flag(notification, "save")) {
         // Saving a password always turns protection on.
-        ui_.requirePassword->setState(1);
+        outlets_.requirePassword->setState(1);
         storeProtection(true);
-        ui_.passwordMeunItem->setText(
+        outlets_.passwordMeunItem->setText(
             Bundle::localizedString(QStringLiteral("inPasswordMeunItem"), QStringLiteral("Main")));
     } else if (const QString password = storedPassword();
                !password.isNull() && password == typed.toString()) {
-        loadList();
+        outlets_.fileListView->loadStoredList();
     }
     Log::line(QStringLiteral("password:") + Log::describe(typed));
 }
 
-void ViewController::yanzhengPassword(const Notification& notification) {
+void PasswordGate::yanzhengPassword(const Notification& notification) {
     const QVariant required = stored(requirePasswordKey);
     if (flag(notification, "yanzheng") && flag(notification, "save")) {
         canReSetRequirtPassword_ = true;
-        ui_.fileListView->setCanDragDrop(true);
-        storeProtection(ui_.requirePassword->state() != 0);
+        outlets_.fileListView->setCanDragDrop(true);
+        storeProtection(outlets_.requirePassword->state() != 0);
         // A window that is unlocked without its list having been loaded would show an empty list,
         // and the next change would store it in place of the real one.
-        if (!ui_.fileListView->isLoaded()) {
-            loadList();
+        if (!outlets_.fileListView->isLoaded()) {
+            outlets_.fileListView->loadStoredList();
         }
     } else {
         canReSetRequirtPassword_ = false;
-        ui_.fileListView->setCanDragDrop(false);
-        ui_.requirePassword->setOn(integerReading(required));
-        ui_.requirePassword->setState(integerReading(required));
+        outlets_.fileListView->setCanDragDrop(false);
+        outlets_.requirePassword->setOn(integerReading(required));
+        outlets_.requirePassword->setState(integerReading(required));
     }
-    updatePasswordCommand();
+    enableCommand();
 }
 
-void ViewController::updatePasswordCommand() {
-    // Changing the password asks for no old one: while the list is locked, anyone could set a new
-    // password and be in.
-    ui_.passwordMeunItem->setEnabled(canEditorItem());
+void PasswordGate::titleCommand() const {
+    outlets_.passwordMeunItem->setText(
+        Bundle::localizedString(isPasswordStored() ? QStringLiteral("inPasswordMeunItem")
+                                                   : QStringLiteral("unPasswordMeunItem"),
+                                QStringLiteral("Main")));
+}
+
+void PasswordGate::enableCommand() const {
+    outlets_.passwordMeunItem->setEnabled(canEditorItem());
 }
