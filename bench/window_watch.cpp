@@ -1,27 +1,20 @@
+#include <chrono>
+#include <csignal>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <memory>
 
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <xcb/xcb.h>
-#include <csignal>
 
 extern char** environ;
 
 /// window_watch PROGRAM [ARGUMENT...]: starts the program, prints the milliseconds until it has a
-/// large window on the display, and ends it. With "-" before it, leaves it and prints its process
-/// too.
+/// large window on the display, and ends it.
 namespace {
-
-double now() {
-    timespec time{};
-    clock_gettime(CLOCK_MONOTONIC, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
 
 bool isLarge(xcb_connection_t* display, xcb_window_t window) {
     constexpr int least = 200;
@@ -47,28 +40,24 @@ void waitForWindow(xcb_connection_t* display) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const bool leave = argc > 1 && argv[1][0] == '-';
-    char** command = argv + (leave ? 2 : 1);
     xcb_connection_t* display = xcb_connect(nullptr, nullptr);
     const xcb_setup_t* setup = xcb_get_setup(display);
-    if (*command == nullptr || setup == nullptr) {
+    if (argc < 2 || setup == nullptr) {
         return 2;
     }
     const std::uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(display, xcb_setup_roots_iterator(setup).data->root,
                                  XCB_CW_EVENT_MASK, &mask);
     xcb_flush(display);
-    const double begin = now();
+    const auto begin = std::chrono::steady_clock::now();
     pid_t child = 0;
-    if (posix_spawnp(&child, *command, nullptr, nullptr, command, environ) != 0) {
+    if (posix_spawnp(&child, argv[1], nullptr, nullptr, argv + 1, environ) != 0) {
         return 1;
     }
     waitForWindow(display);
-    std::printf("%.3f %d\n", now() - begin, static_cast<int>(child));
-    std::fflush(stdout);
-    if (!leave) {
-        kill(child, SIGKILL);
-    }
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
+    std::printf("%.3f\n", time.count());
+    kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     return 0;
 }

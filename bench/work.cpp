@@ -1,15 +1,50 @@
 #include "work.h"
 
-#include <functional>
+#include <cerrno>
+#include <cstdlib>
 #include <map>
 #include <string>
+
+#include <sys/wait.h>
+
+#include <QDeadlineTimer>
+#include <QThread>
 
 #include "platform/application.h"
 #include "platform/bundle.h"
 #include "platform/log.h"
 #include "platform/shell.h"
 
-/// bench_work KIND ROUNDS [COUNT]
+namespace {
+
+bool anyCommandRuns() {
+    siginfo_t child{};
+    return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == 0 || errno != ECHILD;
+}
+
+}  // namespace
+
+void comeToRest() {
+    UserDefaults::standardUserDefaults().synchronize();
+    constexpr int quietTurns = 5;
+    const QDeadlineTimer latest(10'000);
+    for (int quiet = 0; quiet < quietTurns && !latest.hasExpired();) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents);
+        QThread::msleep(5);
+        quiet = anyCommandRuns() ? 0 : quiet + 1;
+    }
+}
+
+ShownWindow::ShownWindow(int rows) {
+    main.load();
+    main.show();
+    comeToRest();
+    const int missing = rows * table().rowHeight() - table().viewport()->height();
+    main.window().resize(main.window().width(), main.window().height() + missing);
+    comeToRest();
+}
+
+/// bench_work KIND ROUNDS
 int main(int argc, char** argv) {
     Log::install();
     Application application(argc, argv);
@@ -19,21 +54,15 @@ int main(int argc, char** argv) {
     // The floors run the same commands.
     qputenv("PATH", Shell::defaultCompanionsFolder().toLocal8Bit() + ':' + qgetenv("PATH"));
 
-    const int rounds = argc > 2 ? std::atoi(argv[2]) : 1;
-    const int count = argc > 3 ? std::atoi(argv[3]) : 0;
-    const std::map<std::string, std::function<void()>> kinds{
-        {"press", [&] { measurePress(rounds); }},
-        {"scroll", [&] { measureScroll(rounds); }},
-        {"sort", [&] { measureSort(rounds); }},
-        {"drop", [&] { measureDrop(rounds, count); }},
-        {"launch", [&] { measureLaunchPass(rounds); }},
-        {"quit", [&] { measureQuitPass(rounds); }},
+    const std::map<std::string, void (*)(int)> kinds{
+        {"press", measurePress}, {"scroll", measureScroll},     {"sort", measureSort},
+        {"drop", measureDrop},   {"launch", measureLaunchPass}, {"quit", measureQuitPass},
     };
-    const auto kind = kinds.find(argc > 1 ? argv[1] : "");
+    const auto kind = kinds.find(argc == 3 ? argv[1] : "");
     if (kind == kinds.cend()) {
-        std::fprintf(stderr, "usage: bench_work KIND ROUNDS [COUNT]\n");
+        std::fprintf(stderr, "usage: bench_work KIND ROUNDS\n");
         return 2;
     }
-    kind->second();
+    kind->second(std::atoi(argv[2]));
     return 0;
 }
