@@ -5,7 +5,6 @@
 #include <QScrollBar>
 #include <QStringListModel>
 #include <QStyledItemDelegate>
-#include <QUrl>
 
 #include "work.h"
 
@@ -99,16 +98,15 @@ void measureDrop(int rounds) {
     ShownWindow window(10);
     const std::optional<ItemList> before = window.list().fileLists();
     for (int round = 0; round < rounds; ++round) {
-        QList<QUrl> addresses;
+        QByteArray addresses;
         for (qsizetype i = 0; i < before->size(); ++i) {
-            addresses << QUrl::fromLocalFile(
-                QStringLiteral("/home/user/Documents/round %1/Paper %2.txt").arg(round).arg(i));
+            addresses += QStringLiteral("file:///home/user/Documents/round-%1/Paper-%2.txt\r\n")
+                             .arg(round)
+                             .arg(i)
+                             .toUtf8();
         }
-        QMimeData source;
-        source.setUrls(addresses);
-        // As a drag brings it, one text of addresses.
         QMimeData drag;
-        drag.setData(QStringLiteral("text/uri-list"), source.data(QStringLiteral("text/uri-list")));
+        drag.setData(QStringLiteral("text/uri-list"), addresses);
         tell(milliseconds([&] {
             window.list().prepareForDragOperation(&drag);
             window.table().viewport()->repaint();

@@ -11,6 +11,7 @@ from place import Place, end
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BIN = ROOT / "build" / "release" / "bin"
+KINDS = ("start", "beside", "passes", "press", "list", "memory")
 PREFERENCES = {"Makevisibleallthelisteditemsatlaunch": True,
                "Makeinvisibleallthelisteditemsonquit": True}
 
@@ -25,9 +26,9 @@ class Bench:
         self.place = place
         self.rows = []
 
-    def add(self, work, figure, floor, limit, goal, unit="ms"):
-        self.rows.append(report.Row(work, figure, floor, limit, goal, unit))
-        print("  ".join(self.rows[-1].cells()), flush=True)
+    def add(self, *arguments, unit="ms"):
+        self.rows.append(report.Row(*arguments, unit))
+        print(self.rows[-1], flush=True)
 
     def output(self, *command):
         return subprocess.run(command, env=self.place.environment, stdin=subprocess.DEVNULL,
@@ -55,9 +56,9 @@ class Bench:
             self.add(f"start to first paint, {count:,} items", figure, floor, limit, goal)
 
     def beside(self):
-        folder = self.place.home / "empty"
-        folder.mkdir(exist_ok=True)
         self.place.store([])
+        folder = self.place.home / "empty"
+        folder.mkdir()
         programs = ((BIN / "velmora",), ("pcmanfm-qt", folder))
         rounds = [[float(self.output(BIN / "bench_window_watch", *program))
                    for program in programs] for _ in range(9)]
@@ -65,7 +66,7 @@ class Bench:
         self.add("start until the window is there, beside pcmanfm-qt", figure, floor, 0.5 * floor,
                  "0.5 times")
 
-    def pass_(self):
+    def passes(self):
         for count, rounds, factor in ((1000, 3, 1.3), (10_000, 1, 1.5)):
             paths = self.place.items(count, folder_size=count)
             found = {"quit": [], "launch": []}
@@ -96,46 +97,40 @@ class Bench:
         self.add("a page of 20 rows, 100,000 items", figure, floor, 1.5 * floor, "1.5 times")
         figure, _ = medians(self.work("sort", 12))
         self.add("a sort of 100,000 items", figure, None, 33, "33 ms")
-        at = {5000: [], 20_000: []}
+        at = {5000: [], 10_000: [], 20_000: []}
         for _ in range(3):
             for count, rounds in at.items():
                 self.place.store(self.place.items(count))
                 rounds += self.work("drop", 3)
-        (few, _), (many, _) = medians(at[5000]), medians(at[20_000])
-        self.place.store(self.place.items(10_000))
-        figure, _ = medians(self.work("drop", 5))
-        self.add("a drop of 10,000 paths onto 10,000", figure, None, None, "linear")
-        self.add("… of 20,000 onto 20,000, beside 5,000 onto 5,000", many, few, 5 * few, "5 times")
+        few, figure, many = (medians(rounds)[0] for rounds in at.values())
+        self.add("a drop of 10,000 paths onto 10,000", figure, None, figure * 5 * few / many,
+                 f"linear: of four times as many ≤ 5 times (is {many / few:.1f})")
 
     def memory(self):
         self.place.store([])
         figure, floor = medians([[self.resident("bench_start"), self.resident("bench_bare_window")]
                                  for _ in range(3)])
-        self.add("memory, no items", figure, floor, floor + 12, "plus 12 MB", "MB")
+        self.add("memory, no items", figure, floor, floor + 12, "plus 12 MB", unit="MB")
 
     def resident(self, program):
         """MB that a program has in memory once that has stopped changing."""
-        process = self.place.start(BIN / program, "--stay", stdout=subprocess.PIPE)
+        process = self.place.start(BIN / program, "--stay")
         process.stdout.readline()
-        last, now, turns = None, 0, 0
-        while now != last and turns < 200:
-            time.sleep(0.25)
+        last, now = None, 0
+        while now != last:
+            time.sleep(0.5)
             status = pathlib.Path(f"/proc/{process.pid}/status").read_text()
             last, now = now, int(status.split("VmRSS:")[1].split()[0]) * 1024 / 1e6
-            turns += 1
         end(process)
         return now
 
 
 def main():
-    kinds = {"start": Bench.start, "beside": Bench.beside, "pass": Bench.pass_,
-             "press": Bench.press, "list": Bench.list, "memory": Bench.memory}
-    wanted = [word for word in sys.argv[1:] if word in kinds] or list(kinds)
+    wanted = [word for word in sys.argv[1:] if word in KINDS]
     with Place() as place:
         bench = Bench(place)
-        for kind in wanted:
-            kinds[kind](bench)
-    print("\n" + report.aligned(bench.rows))
+        for kind in wanted or KINDS:
+            getattr(bench, kind)()
     if "--record" in sys.argv:
         report.record(bench.rows, ROOT / "docs")
 

@@ -17,18 +17,14 @@ class Row:
         self.floor = f"{floor:.3g} {unit}" if floor else "–"
         self.ratio = f"{figure / floor:.2f}" if floor else "–"
         self.goal = goal
-        self.share = figure / limit if limit else None
+        self.share = figure / limit
 
     def cells(self):
-        met = "" if self.share is None else "met" if self.share <= 1 else "not met"
+        met = "met" if self.share <= 1 else "not met"
         return self.work, self.figure, self.floor, self.ratio, self.goal, met
 
-
-def aligned(rows):
-    table = [HEADS] + [row.cells() for row in rows]
-    widths = [max(len(cells[i]) for cells in table) for i in range(len(HEADS))]
-    return "\n".join("  ".join(cell.ljust(width) for cell, width in zip(cells, widths)).rstrip()
-                     for cells in table)
+    def __str__(self):
+        return "{:51}{:>9}{:>9}{:>6}  {:20}{}".format(*self.cells())
 
 
 def markdown(rows):
@@ -38,7 +34,6 @@ def markdown(rows):
 
 def picture(rows):
     """How much of its goal each work takes, as bars beside the line of the whole goal."""
-    rows = [row for row in rows if row.share is not None]
     height = STEP * (len(rows) + 2)
     goal = LEFT + BAR
     parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{goal + 180}" height="{height}" '

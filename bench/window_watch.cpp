@@ -1,6 +1,5 @@
 #include <chrono>
 #include <csignal>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -10,10 +9,6 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
-extern char** environ;
-
-/// window_watch PROGRAM [ARGUMENT...]: starts the program, prints the milliseconds until it has a
-/// large window on the display, and ends it.
 namespace {
 
 bool isLarge(xcb_connection_t* display, xcb_window_t window) {
@@ -23,22 +18,21 @@ bool isLarge(xcb_connection_t* display, xcb_window_t window) {
     return geometry && geometry->width >= least && geometry->height >= least;
 }
 
-void waitForWindow(xcb_connection_t* display) {
-    for (;;) {
-        const std::unique_ptr<xcb_generic_event_t, decltype(&std::free)> event(
-            xcb_wait_for_event(display), &std::free);
-        if (!event) {
-            std::exit(1);
-        }
+bool waitForWindow(xcb_connection_t* display) {
+    while (xcb_generic_event_t* event = xcb_wait_for_event(display)) {
+        const std::unique_ptr<xcb_generic_event_t, decltype(&std::free)> owner(event, &std::free);
         if ((event->response_type & 0x7f) == XCB_MAP_NOTIFY &&
-            isLarge(display, reinterpret_cast<xcb_map_notify_event_t*>(event.get())->window)) {
-            return;
+            isLarge(display, reinterpret_cast<xcb_map_notify_event_t*>(event)->window)) {
+            return true;
         }
     }
+    return false;
 }
 
 }  // namespace
 
+/// window_watch PROGRAM [ARGUMENT...]: starts the program, prints the milliseconds until it has a
+/// large window on the display, and ends it.
 int main(int argc, char** argv) {
     xcb_connection_t* display = xcb_connect(nullptr, nullptr);
     const xcb_setup_t* setup = xcb_get_setup(display);
@@ -54,10 +48,10 @@ int main(int argc, char** argv) {
     if (posix_spawnp(&child, argv[1], nullptr, nullptr, argv + 1, environ) != 0) {
         return 1;
     }
-    waitForWindow(display);
+    const bool seen = waitForWindow(display);
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
-    std::printf("%.3f\n", time.count());
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
-    return 0;
+    std::printf("%.3f\n", time.count());
+    return seen ? 0 : 1;
 }
