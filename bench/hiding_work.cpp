@@ -1,5 +1,4 @@
 #include <cstdlib>
-#include <optional>
 
 #include <QCoreApplication>
 
@@ -24,28 +23,22 @@ double floorOfOne() {
     return milliseconds(work) / times;
 }
 
-template <typename Pass>
-void measurePass(int rounds, Pass&& pass) {
-    for (int round = 0; round < rounds; ++round) {
-        UserDefaults defaults(UserDefaults::standardFile());
-        const auto count = static_cast<double>(defaults.itemList().value_or(ItemList()).size());
-        std::optional<MainWindow> window(std::in_place);
-        const double before = floorOfOne();
-        const double time = milliseconds([&] { pass(*window); });
-        tell(time / count, (before + floorOfOne()) / 2);
-        window.reset();
-        comeToRest();
-    }
-}
-
 }  // namespace
 
-void measureLaunchPass(int rounds) {
-    measurePass(rounds, [](MainWindow& window) { window.load(); });
-}
-
-void measureQuitPass(int rounds) {
-    measurePass(rounds, [](MainWindow& window) { window.windowController().closeApplication(); });
+void measurePass(bool quit) {
+    const UserDefaults defaults(UserDefaults::standardFile());
+    const auto count = static_cast<double>(defaults.itemList().value_or(ItemList()).size());
+    MainWindow window;
+    const double before = floorOfOne();
+    const double time = milliseconds([&window, quit] {
+        if (quit) {
+            window.windowController().closeApplication();
+        } else {
+            window.load();
+        }
+    });
+    tell(time / count, (before + floorOfOne()) / 2);
+    comeToRest();
 }
 
 void measurePress(int rounds) {

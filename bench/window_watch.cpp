@@ -11,22 +11,15 @@
 
 namespace {
 
-bool isLarge(xcb_connection_t* display, xcb_window_t window) {
-    constexpr int least = 200;
+bool shows(xcb_connection_t* display, const xcb_generic_event_t& event) {
+    constexpr int large = 200;
+    if ((event.response_type & 0x7f) != XCB_MAP_NOTIFY) {
+        return false;
+    }
+    const auto window = reinterpret_cast<const xcb_map_notify_event_t&>(event).window;
     const std::unique_ptr<xcb_get_geometry_reply_t, decltype(&std::free)> geometry(
         xcb_get_geometry_reply(display, xcb_get_geometry(display, window), nullptr), &std::free);
-    return geometry && geometry->width >= least && geometry->height >= least;
-}
-
-bool waitForWindow(xcb_connection_t* display) {
-    while (xcb_generic_event_t* event = xcb_wait_for_event(display)) {
-        const std::unique_ptr<xcb_generic_event_t, decltype(&std::free)> owner(event, &std::free);
-        if ((event->response_type & 0x7f) == XCB_MAP_NOTIFY &&
-            isLarge(display, reinterpret_cast<xcb_map_notify_event_t*>(event)->window)) {
-            return true;
-        }
-    }
-    return false;
+    return geometry && geometry->width >= large && geometry->height >= large;
 }
 
 }  // namespace
@@ -48,10 +41,13 @@ int main(int argc, char** argv) {
     if (posix_spawnp(&child, argv[1], nullptr, nullptr, argv + 1, environ) != 0) {
         return 1;
     }
-    const bool seen = waitForWindow(display);
+    xcb_generic_event_t* event = xcb_wait_for_event(display);
+    while (event != nullptr && !shows(display, *event)) {
+        event = xcb_wait_for_event(display);
+    }
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - begin;
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     std::printf("%.3f\n", time.count());
-    return seen ? 0 : 1;
+    return event != nullptr ? 0 : 1;
 }

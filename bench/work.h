@@ -42,6 +42,5 @@ void measureScroll(int rounds);
 void measureSort(int rounds);
 /// Drops as many paths as the list has; they need not exist.
 void measureDrop(int rounds);
-/// One item of a pass over the whole list.
-void measureLaunchPass(int rounds);
-void measureQuitPass(int rounds);
+/// One item of a quit pass or a launch pass over the whole list.
+void measurePass(bool quit);
