@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "platform/file_attributes.h"
 
@@ -12,7 +13,8 @@ std::optional<FileAttributes> attributesOfItem(const QString& path) {
     }
     FileAttributes attributes;
     attributes.size = status.st_size;
-    attributes.modified = QDateTime::fromSecsSinceEpoch(status.st_mtimespec.tv_sec);
-    attributes.created = QDateTime::fromSecsSinceEpoch(status.st_birthtimespec.tv_sec);
+    attributes.modified = QDateTime::fromSecsSinceEpoch(status.st_mtime);
+    // Qt tells only of what a link points to. A link itself is as it was made.
+    attributes.created = S_ISLNK(status.st_mode) ? attributes.modified : QFileInfo(path).birthTime();
     return attributes;
 }

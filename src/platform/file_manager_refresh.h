@@ -1,7 +1,5 @@
 #pragma once
 
-#include <chrono>
-
 #include <QList>
 #include <QObject>
 #include <QProcess>
@@ -12,8 +10,8 @@
 /// Makes open windows of the desktop's file managers show what has become hidden or visible.
 ///
 /// The work is done by a small program beside the companions, so that neither a slow file manager
-/// nor anything that goes wrong with one is felt here. File managers remember for some seconds
-/// what is hidden in a folder, so they are told at once and twice more until that has run out.
+/// nor anything that goes wrong with one is felt here. It repeats by itself what file managers may
+/// not have taken in at once.
 class FileManagerRefresh final : public QObject {
     Q_OBJECT
 
@@ -27,7 +25,7 @@ public:
 
     /// `program`: path of the program "refresh" in the companions' folder.
     explicit FileManagerRefresh(QString program, QObject* parent = nullptr);
-    /// What is still to be told goes on without the program.
+    /// What is still to be told is told without the program.
     ~FileManagerRefresh() override;
 
     /// To be called after the item's state was changed. Returns at once; calls within one turn of
@@ -37,33 +35,17 @@ public:
     /// What the last telling found; empty before the first.
     const QList<Unreached>& unreached() const { return unreached_; }
 
-    /// How long after the first telling the second follows, and the third after that: for tests.
-    void setRepeatAfter(std::chrono::milliseconds time) { repeatAfter_ = time; }
-
 signals:
     /// unreached() has changed.
     void unreachedChanged();
 
-protected:
-    /// A repeat is due.
-    void timerEvent(QTimerEvent* event) override;
-
 private:
-    struct Repeat {
-        QStringList paths;
-        int times;
-    };
-
-    void tellNew();
-    void repeatLater(const Repeat& repeat);
     void startNext();
     void readAnswer();
 
     QString program_;
-    std::chrono::milliseconds repeatAfter_{7000};
-    QStringList changed_;         // since the last turn of the event loop
-    QList<QStringList> waiting_;  // for the running process to end
-    QList<Repeat> repeats_;       // in the order in which they are due
+    QStringList changed_;  // and not told yet
+    QStringList telling_;  // by the running process
     QTimer turn_;
     QProcess process_;
     QList<Unreached> unreached_;

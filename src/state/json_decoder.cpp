@@ -57,8 +57,9 @@ private:
 };
 
 bool StoreBuilder::open(Kind kind) {
-    if (open_.size() >= deepestNesting)
+    if (open_.size() >= deepestNesting) {
         return false;
+    }
     open_.push_back({kind, {}, {}, {}});
     return true;
 }
@@ -70,17 +71,20 @@ StoreBuilder::Container StoreBuilder::close() {
 }
 
 bool StoreBuilder::put(const QVariant& value) {
-    if (open_.empty())
+    if (open_.empty()) {
         return false;
-    if (inRecord())
+    }
+    if (inRecord()) {
         makeRecordADictionary();
+    }
     Container& container = open_.back();
-    if (container.kind == Kind::Dictionary)
+    if (container.kind == Kind::Dictionary) {
         container.dictionary.insert(container.key, value);
-    else if (container.kind == Kind::Array)
+    } else if (container.kind == Kind::Array) {
         container.array.append(value);
-    else
+    } else {
         items_.append(ItemRecord::fromVariant(value));
+    }
     return true;
 }
 
@@ -90,53 +94,60 @@ bool StoreBuilder::RawNumber(const char* text, rapidjson::SizeType length, bool 
     bool fits = false;
     const bool integer = !view.contains('.') && !view.contains('e') && !view.contains('E');
     if (const qlonglong value = integer ? view.toLongLong(&fits) : 0; fits) {
-        if (value != 1 || !inRecord() || field_ != Field::Visible)
+        if (value != 1 || !inRecord() || field_ != Field::Visible) {
             return put(QVariant::fromValue(value));
+        }
         visible_ = VisibleForm::NumberOne;
         return true;
     }
-    if (const qulonglong value = integer ? view.toULongLong(&fits) : 0; fits)
+    if (const qulonglong value = integer ? view.toULongLong(&fits) : 0; fits) {
         return put(QVariant::fromValue(value));
+    }
     const double value = view.toDouble(&fits);
     return fits && put(value);
 }
 
 bool StoreBuilder::String(const char* text, rapidjson::SizeType length, bool /*copy*/) {
     const QUtf8StringView view(text, static_cast<qsizetype>(length));
-    if (!inRecord() || field_ == Field::None)
+    if (!inRecord() || field_ == Field::None) {
         return put(view.toString());
-    if (field_ == Field::Path)
+    }
+    if (field_ == Field::Path) {
         path_ = view.toString();
-    else if (field_ == Field::Title)
+    } else if (field_ == Field::Title) {
         title_ = view.toString();
-    else if (length == 1 && (*text == '0' || *text == '1'))
+    } else if (length == 1 && (*text == '0' || *text == '1')) {
         visible_ = *text == '1' ? VisibleForm::StringOne : VisibleForm::StringZero;
-    else
+    } else {
         return put(view.toString());
+    }
     return true;
 }
 
 bool StoreBuilder::Key(const char* text, rapidjson::SizeType length, bool /*copy*/) {
     const QLatin1StringView key(text, static_cast<qsizetype>(length));
     if (inRecord()) {
-        if (key == ItemRecord::filePathKey)
+        if (key == ItemRecord::filePathKey) {
             field_ = Field::Path;
-        else if (key == ItemRecord::fileTitleKey)
+        } else if (key == ItemRecord::fileTitleKey) {
             field_ = Field::Title;
-        else if (key == ItemRecord::visibleKey)
+        } else if (key == ItemRecord::visibleKey) {
             field_ = Field::Visible;
-        else
+        } else {
             makeRecordADictionary();
+        }
     }
-    if (!inRecord())
+    if (!inRecord()) {
         open_.back().key = QString::fromUtf8(text, static_cast<qsizetype>(length));
+    }
     return true;
 }
 
 bool StoreBuilder::StartObject() {
     if (open_.empty() || open_.back().kind != Kind::ItemArray) {
-        if (inRecord())
+        if (inRecord()) {
             makeRecordADictionary();
+        }
         return open(Kind::Dictionary);
     }
     field_ = Field::None;
@@ -156,19 +167,23 @@ bool StoreBuilder::EndObject(rapidjson::SizeType /*count*/) {
         makeRecordADictionary();
     }
     Container container = close();
-    if (!open_.empty())
+    if (!open_.empty()) {
         return put(container.dictionary);
+    }
     contents_ = std::move(container.dictionary);
     return true;
 }
 
 bool StoreBuilder::StartArray() {
-    if (open_.empty())
+    if (open_.empty()) {
         return false;
-    if (inRecord())
+    }
+    if (inRecord()) {
         makeRecordADictionary();
-    if (open_.size() > 1 || open_.back().key != itemListKey)
+    }
+    if (open_.size() > 1 || open_.back().key != itemListKey) {
         return open(Kind::Array);
+    }
     items_ = ItemList();
     return open(Kind::ItemArray);
 }
@@ -186,12 +201,15 @@ void StoreBuilder::makeRecordADictionary() {
     const auto keep = [&record](QLatin1StringView key, const QVariant& value) {
         record.dictionary.insert(key, value);
     };
-    if (!path_.isNull())
+    if (!path_.isNull()) {
         keep(ItemRecord::filePathKey, path_);
-    if (!title_.isNull())
+    }
+    if (!title_.isNull()) {
         keep(ItemRecord::fileTitleKey, title_);
-    if (visible_)
+    }
+    if (visible_) {
         keep(ItemRecord::visibleKey, ItemRecord::forPath(QString(), *visible_).visible());
+    }
     switch (field_) {
         case Field::None:
             break;
@@ -211,8 +229,9 @@ void StoreBuilder::makeRecordADictionary() {
 
 std::optional<StoreContents> decodeStore(QByteArray json) {
     // RapidJSON's own check reads past the end when that is in the middle of a character.
-    if (!json.isValidUtf8())
+    if (!json.isValidUtf8()) {
         return std::nullopt;
+    }
     constexpr unsigned flags = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag |
                                rapidjson::kParseNumbersAsStringsFlag;
     rapidjson::InsituStringStream stream(json.data());
@@ -220,7 +239,8 @@ std::optional<StoreContents> decodeStore(QByteArray json) {
     StoreBuilder builder;
     const rapidjson::ParseResult result = reader.Parse<flags>(stream, builder);
     // A zero byte looks like the end to the parser.
-    if (result.IsError() || stream.Tell() != static_cast<std::size_t>(json.size()))
+    if (result.IsError() || stream.Tell() != static_cast<std::size_t>(json.size())) {
         return std::nullopt;
+    }
     return builder.takeContents();
 }

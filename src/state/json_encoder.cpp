@@ -16,8 +16,9 @@ public:
     explicit PiecewiseStream(const ByteSink& sink) : sink_(sink) {}
 
     void Put(char byte) {
-        if (used_ == buffer_.size())
+        if (used_ == buffer_.size()) {
             Flush();
+        }
         buffer_[used_++] = byte;
     }
     void Flush() {
@@ -81,8 +82,9 @@ void StoreEncoder::value(const QVariant& value) {
         case QMetaType::QVariantMap:
             return dictionary(value.toMap());
         default:
-            if (value.metaType() == QMetaType::fromType<ItemList>())
+            if (value.metaType() == QMetaType::fromType<ItemList>()) {
                 return items(value.value<ItemList>());
+            }
             writer_.Null();
     }
 }
@@ -99,34 +101,38 @@ void StoreEncoder::dictionary(const QVariantMap& entries) {
 
 void StoreEncoder::array(const QVariantList& values) {
     writer_.StartArray();
-    for (const QVariant& element : values)
+    for (const QVariant& element : values) {
         value(element);
+    }
     writer_.EndArray();
 }
 
 void StoreEncoder::items(const ItemList& list) {
     writer_.StartArray();
     list.forEach([this](const ItemRecord& item) {
-        if (!stream_.stopped())
+        if (!stream_.stopped()) {
             record(item);
+        }
     });
     writer_.EndArray();
 }
 
 void StoreEncoder::record(const ItemRecord& record) {
     const std::optional<VisibleForm> form = record.ordinaryForm();
-    if (!form)
+    if (!form) {
         return value(record.toVariant());
+    }
     writer_.StartObject();
     name(ItemRecord::filePathKey);
     text(record.filePath());
     name(ItemRecord::fileTitleKey);
     text(record.fileTitleView());
     name(ItemRecord::visibleKey);
-    if (*form == VisibleForm::NumberOne)
+    if (*form == VisibleForm::NumberOne) {
         writer_.Int(1);
-    else
+    } else {
         writer_.String(*form == VisibleForm::StringOne ? "1" : "0", 1);
+    }
     writer_.EndObject();
 }
 
@@ -137,10 +143,11 @@ void StoreEncoder::text(QStringView text) {
 
 void StoreEncoder::real(double value) {
     // JSON has no words for the others.
-    if (std::isfinite(value))
+    if (std::isfinite(value)) {
         writer_.Double(value);
-    else
+    } else {
         writer_.Null();
+    }
 }
 
 }  // namespace

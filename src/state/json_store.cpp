@@ -16,8 +16,9 @@ namespace {
 QString saveSnapshot(const QString& file, const QString& backup, const StoreContents& snapshot) {
     QString reason = replaceStore(file, snapshot);
     // Only after the file itself, so that one of the two is good whatever happens to the other.
-    if (reason.isNull())
+    if (reason.isNull()) {
         replaceStore(backup, snapshot);
+    }
     return reason;
 }
 
@@ -38,8 +39,9 @@ JsonStore::JsonStore(const QString& file) : file_(file), backup_(file + QStringL
 }
 
 JsonStore::~JsonStore() {
-    if (!JsonStore::synchronize())
+    if (!JsonStore::synchronize()) {
         qWarning().noquote() << problem();
+    }
 }
 
 QVariant JsonStore::value(const QString& key) const {
@@ -49,8 +51,9 @@ QVariant JsonStore::value(const QString& key) const {
 void JsonStore::setValue(const QString& key, const QVariant& value) {
     QVariant& current = contents_[key];
     // The start of the program stores what it has just read; that is no reason to write.
-    if (!unsaved_ && sameStoredValue(current, value))
+    if (!unsaved_ && sameStoredValue(current, value)) {
         return;
+    }
     if (key == itemListKey && current.isValid() && !isItemList(current)) {
         noticeOnceAside_ = UserDefaults::tr(
             "The settings held no proper item list. They were kept as “%1” before the new list "
@@ -62,12 +65,15 @@ void JsonStore::setValue(const QString& key, const QVariant& value) {
 }
 
 bool JsonStore::synchronize() {
-    if (save_.valid())
+    if (save_.valid()) {
         finishSave();
-    if (unsaved_)
+    }
+    if (unsaved_) {
         startSave();
-    if (save_.valid())
+    }
+    if (save_.valid()) {
         finishSave();
+    }
     return !unsaved_;
 }
 
@@ -85,8 +91,9 @@ void JsonStore::load() {
     }
     StoreReading reading = readStore(file_);
     contents_ = std::move(reading.contents);
-    if (reading.state != StoreReading::State::Damaged)
+    if (reading.state != StoreReading::State::Damaged) {
         return;
+    }
 
     StoreReading copy = readStore(backup_);
     contents_ = std::move(copy.contents);
@@ -97,18 +104,21 @@ void JsonStore::load() {
                            : UserDefaults::tr(
                                  "The settings could not be read. They were kept as "
                                  "“%1”, and there was no good copy to use instead.");
-    if (copy.state == StoreReading::State::Damaged)
+    if (copy.state == StoreReading::State::Damaged) {
         setAside(backup_);
+    }
     // At once, for the next start must find the file good again.
     unsaved_ = true;
-    if (keepOldFile())
+    if (keepOldFile()) {
         scheduleSave();
+    }
 }
 
 /// False, with the problem told, when the file must be set aside and cannot be.
 bool JsonStore::keepOldFile() {
-    if (noticeOnceAside_.isEmpty())
+    if (noticeOnceAside_.isEmpty()) {
         return true;
+    }
     if (readStore(file_).state == StoreReading::State::Missing) {
         noticeOnceAside_.clear();
         return true;
@@ -126,20 +136,23 @@ bool JsonStore::keepOldFile() {
 }
 
 void JsonStore::scheduleSave() {
-    if (!std::exchange(scheduled_, true))
+    if (!std::exchange(scheduled_, true)) {
         emit changed();
+    }
 }
 
 void JsonStore::saveChanges() {
     scheduled_ = false;
     // What a save in progress does not take along goes into the next one.
-    if (unsaved_ && !save_.valid())
+    if (unsaved_ && !save_.valid()) {
         startSave();
+    }
 }
 
 void JsonStore::startSave() {
-    if (!keepOldFile())
+    if (!keepOldFile()) {
         return;
+    }
     unsaved_ = false;
     const auto save = [this, number = ++saveNumber_, file = file_, backup = backup_,
                        snapshot = contents_] {
@@ -149,28 +162,32 @@ void JsonStore::startSave() {
     };
     // Where no thread can be had now, the window has to wait after all.
     save_ = std::async(std::launch::async | std::launch::deferred, save);
-    if (save_.wait_for(std::chrono::seconds(0)) == std::future_status::deferred)
+    if (save_.wait_for(std::chrono::seconds(0)) == std::future_status::deferred) {
         finishSave();
+    }
 }
 
 void JsonStore::takeResult(int number) {
     // synchronize() may have been quicker.
-    if (save_.valid() && number == saveNumber_)
+    if (save_.valid() && number == saveNumber_) {
         finishSave();
+    }
 }
 
 void JsonStore::finishSave() {
     const QString reason = save_.get();
     if (reason.isNull()) {
         tell(saveProblem_, QString());
-        if (unsaved_)
+        if (unsaved_) {
             scheduleSave();
+        }
     } else {
         // Not tried again by itself, the disk may be full for long: with the next change.
         const bool changedMeanwhile = std::exchange(unsaved_, true);
         tell(saveProblem_, UserDefaults::tr("The settings could not be saved: %1").arg(reason));
-        if (changedMeanwhile)
+        if (changedMeanwhile) {
             scheduleSave();
+        }
     }
 }
 
@@ -178,6 +195,7 @@ void JsonStore::finishSave() {
 void JsonStore::tell(QString& place, const QString& text) {
     const QString before = problem();
     place = text;
-    if (problem() != before)
+    if (problem() != before) {
         emit problemChanged();
+    }
 }

@@ -12,15 +12,17 @@ using Limits = std::numeric_limits<qlonglong>;
 
 QStringView withoutLeadingBlanks(QStringView text) {
     while (!text.isEmpty() &&
-           (text.front() == u'\t' || text.front().category() == QChar::Separator_Space))
+           (text.front() == u'\t' || text.front().category() == QChar::Separator_Space)) {
         text = text.sliced(1);
+    }
     return text;
 }
 
 /// Takes a sign off the front and tells whether it was a minus.
 bool takeSign(QStringView& text) {
-    if (text.isEmpty() || (text.front() != u'-' && text.front() != u'+'))
+    if (text.isEmpty() || (text.front() != u'-' && text.front() != u'+')) {
         return false;
+    }
     const bool minus = text.front() == u'-';
     text = text.sliced(1);
     return minus;
@@ -29,8 +31,9 @@ bool takeSign(QStringView& text) {
 bool truthOfText(QStringView text) {
     text = withoutLeadingBlanks(text);
     takeSign(text);
-    while (!text.isEmpty() && text.front() == u'0')
+    while (!text.isEmpty() && text.front() == u'0') {
         text = text.sliced(1);
+    }
     return !text.isEmpty() && QStringView(u"YyTt123456789").contains(text.front());
 }
 
@@ -39,27 +42,33 @@ qlonglong integerOfText(QStringView text) {
     const bool minus = takeSign(text);
     qlonglong result = 0;
     for (const QChar digit : text) {
-        if (digit < u'0' || digit > u'9')
+        if (digit < u'0' || digit > u'9') {
             break;
+        }
         // Counted downwards, where the range has one number more.
         const int next = digit.unicode() - u'0';
-        if (result < (Limits::min() + next) / 10)
+        if (result < (Limits::min() + next) / 10) {
             return minus ? Limits::min() : Limits::max();
+        }
         result = result * 10 - next;
     }
-    if (minus)
+    if (minus) {
         return result;
+    }
     return result == Limits::min() ? Limits::max() : -result;
 }
 
 qlonglong integerOfReal(double real) {
-    if (std::isnan(real))
+    if (std::isnan(real)) {
         return 0;
+    }
     // The upper limit itself is no double; the next one above it is.
-    if (real >= -static_cast<double>(Limits::min()))
+    if (real >= -static_cast<double>(Limits::min())) {
         return Limits::max();
-    if (real < static_cast<double>(Limits::min()))
+    }
+    if (real < static_cast<double>(Limits::min())) {
         return Limits::min();
+    }
     return static_cast<qlonglong>(real);
 }
 

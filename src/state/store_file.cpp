@@ -48,10 +48,12 @@ QString lastError() {
 bool writeAll(int descriptor, const char* bytes, std::size_t count) {
     while (count > 0) {
         const ssize_t written = ::write(descriptor, bytes, count);
-        if (written < 0 && errno == EINTR)
+        if (written < 0 && errno == EINTR) {
             continue;
-        if (written <= 0)
+        }
+        if (written <= 0) {
             return false;
+        }
         bytes += written;
         count -= static_cast<std::size_t>(written);
     }
@@ -69,8 +71,9 @@ bool writeContents(FileDescriptor& output, const StoreContents& contents) {
 void syncFolder(const QString& folder) {
     const FileDescriptor descriptor(
         ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (descriptor.isOpen())
+    if (descriptor.isOpen()) {
         ::fsync(descriptor.get());
+    }
 }
 
 }  // namespace
@@ -78,33 +81,39 @@ void syncFolder(const QString& folder) {
 QString linkTarget(const QString& file) {
     constexpr int mostLinks = 40;
     QString target = file;
-    for (int i = 0; i < mostLinks && QFileInfo(target).isSymLink(); ++i)
+    for (int i = 0; i < mostLinks && QFileInfo(target).isSymLink(); ++i) {
         target = QFileInfo(target).symLinkTarget();
+    }
     return target;
 }
 
 StoreReading readStore(const QString& file) {
     using State = StoreReading::State;
     struct stat status {};
-    if (::stat(QFile::encodeName(file).constData(), &status) != 0)
+    if (::stat(QFile::encodeName(file).constData(), &status) != 0) {
         return {errno == ENOENT ? State::Missing : State::Damaged, {}};
+    }
     // Opening a pipe would wait for its other end.
     QFile input(file);
-    if (!S_ISREG(status.st_mode) || !input.open(QIODevice::ReadOnly))
+    if (!S_ISREG(status.st_mode) || !input.open(QIODevice::ReadOnly)) {
         return {State::Damaged, {}};
+    }
     QByteArray json = input.readAll();
-    if (input.error() != QFileDevice::NoError)
+    if (input.error() != QFileDevice::NoError) {
         return {State::Damaged, {}};
+    }
     std::optional<StoreContents> contents = decodeStore(std::move(json));
-    if (!contents)
+    if (!contents) {
         return {State::Damaged, {}};
+    }
     return {State::Good, *std::move(contents)};
 }
 
 std::optional<QString> setAside(const QString& file) {
     const QString target = linkTarget(file);
-    if (!QFileInfo(target).isFile())
+    if (!QFileInfo(target).isFile()) {
         return std::nullopt;
+    }
     const QString dated =
         target + u'.' + QDateTime::currentDateTime().toString(u"yyyy-MM-ddTHHmmss");
     constexpr int mostAttempts = 100;
@@ -113,10 +122,12 @@ std::optional<QString> setAside(const QString& file) {
         // As a second link or a copy the content is there under both names, should the program
         // end here. Neither that nor the rename, for a file of somebody else, replaces anything.
         if (::link(QFile::encodeName(target).constData(), QFile::encodeName(aside).constData()) ==
-            0)
+            0) {
             return aside;
-        if (errno != EEXIST && (QFile::copy(target, aside) || QFile::rename(target, aside)))
+        }
+        if (errno != EEXIST && (QFile::copy(target, aside) || QFile::rename(target, aside))) {
             return aside;
+        }
     }
     return std::nullopt;
 }
@@ -126,25 +137,29 @@ void removeStaleTemporaries(const QString& file) {
     const QDir folder = info.absoluteDir();
     const QStringList names = folder.entryList(QDir::Files | QDir::Hidden);
     for (const QString& name : names) {
-        if (!name.startsWith(info.fileName() + temporaryInfix))
+        if (!name.startsWith(info.fileName() + temporaryInfix)) {
             continue;
+        }
         const QByteArray path = QFile::encodeName(folder.filePath(name));
         const FileDescriptor descriptor(
             ::open(path.constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK));
         // A save holds the lock as long as it lives.
-        if (descriptor.isOpen() && ::flock(descriptor.get(), LOCK_EX | LOCK_NB) == 0)
+        if (descriptor.isOpen() && ::flock(descriptor.get(), LOCK_EX | LOCK_NB) == 0) {
             ::unlink(path.constData());
+        }
     }
 }
 
 QString replaceStore(const QString& file, const StoreContents& contents) {
     const QByteArray target = QFile::encodeName(linkTarget(file));
-    if (QString reason = makeFolderOf(file); !reason.isNull())
+    if (QString reason = makeFolderOf(file); !reason.isNull()) {
         return reason;
+    }
     QByteArray temporary = target + temporaryInfix.latin1() + "XXXXXX";
     FileDescriptor output(::mkostemp(temporary.data(), O_CLOEXEC));
-    if (!output.isOpen())
+    if (!output.isOpen()) {
         return lastError();
+    }
     ::flock(output.get(), LOCK_EX | LOCK_NB);
     if (!writeContents(output, contents) ||
         ::rename(temporary.constData(), target.constData()) != 0) {
@@ -158,8 +173,9 @@ QString replaceStore(const QString& file, const StoreContents& contents) {
 
 QString makeFolderOf(const QString& file) {
     const QString folder = folderOf(linkTarget(file));
-    if (QFileInfo(folder).isDir())
+    if (QFileInfo(folder).isDir()) {
         return {};
+    }
     QDir().mkpath(folderOf(folder));
     const bool made = ::mkdir(QFile::encodeName(folder).constData(), S_IRWXU) == 0;
     return made ? QString() : lastError();

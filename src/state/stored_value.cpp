@@ -8,8 +8,9 @@
 namespace {
 
 QVariant storedInteger(qulonglong number) {
-    if (number > static_cast<qulonglong>(std::numeric_limits<qlonglong>::max()))
+    if (number > static_cast<qulonglong>(std::numeric_limits<qlonglong>::max())) {
         return QVariant::fromValue(number);
+    }
     return QVariant::fromValue(static_cast<qlonglong>(number));
 }
 
@@ -22,15 +23,17 @@ QVariant storedElement(const QVariant& value) {
 QVariant storedArray(const QVariantList& array) {
     QVariantList stored;
     stored.reserve(array.size());
-    for (const QVariant& value : array)
+    for (const QVariant& value : array) {
         stored.append(storedElement(value));
+    }
     return stored;
 }
 
 QVariant storedDictionary(const QVariantMap& dictionary) {
     QVariantMap stored;
-    for (auto entry = dictionary.cbegin(); entry != dictionary.cend(); ++entry)
+    for (auto entry = dictionary.cbegin(); entry != dictionary.cend(); ++entry) {
         stored.insert(entry.key(), storedElement(entry.value()));
+    }
     return stored;
 }
 
@@ -69,8 +72,9 @@ QVariant storedForm(const QVariant& value) {
 }
 
 bool sameStoredValue(const QVariant& left, const QVariant& right) {
-    if (left.metaType() != right.metaType())
+    if (left.metaType() != right.metaType()) {
         return false;
+    }
     switch (left.typeId()) {
         case QMetaType::Nullptr:
             return true;

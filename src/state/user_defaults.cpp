@@ -32,8 +32,9 @@ UserDefaults::~UserDefaults() {
 }
 
 UserDefaults& UserDefaults::standardUserDefaults() {
-    if (instances().empty())
+    if (instances().empty()) {
         qFatal("There are no user defaults yet.");
+    }
     return *instances().back();
 }
 
@@ -52,22 +53,25 @@ QVariant UserDefaults::objectForKey(const QString& key) const {
 
 void UserDefaults::setObject(const QVariant& value, const QString& key) {
     const QVariant stored = storedForm(value);
-    if (key == itemListKey && stored.typeId() == QMetaType::QVariantList)
+    if (key == itemListKey && stored.typeId() == QMetaType::QVariantList) {
         setItemList(ItemList::fromVariantList(stored.toList()));
-    else if (stored.isValid())
+    } else if (stored.isValid()) {
         store_->setValue(key, stored);
+    }
 }
 
 std::optional<ItemList> UserDefaults::itemList() const {
     const QVariant list = objectForKey(itemListKey);
-    if (list.metaType() != QMetaType::fromType<ItemList>())
+    if (list.metaType() != QMetaType::fromType<ItemList>()) {
         return std::nullopt;
+    }
     return list.value<ItemList>();
 }
 
 void UserDefaults::setItemList(const std::optional<ItemList>& list) {
-    if (list)
+    if (list) {
         store_->setValue(itemListKey, QVariant::fromValue(*list));
+    }
 }
 
 bool UserDefaults::synchronize() {

@@ -139,36 +139,83 @@ class TheList(Folder):
         run("nohidden", a, b)
         self.assertFalse(os.path.exists(self.list))
 
-    def test_mode_owner_attributes_and_link_stay(self):
+    def test_mode_owner_and_attributes_stay(self):
         self.needMarks()
-        a, target = self.make(b"a", b"list", content=b"x\n")
-        os.mkdir(self.folder + b"/else")
-        os.symlink(b"else/one", self.list)
-        os.symlink(b"../list", self.folder + b"/else/one")
-        os.chmod(target, 0o640)
-        os.setxattr(target, "user.note", b"mine")
+        a, = self.make(b"a")
+        self.make(b".hidden", content=b"x\n")
+        os.chmod(self.list, 0o640)
+        os.setxattr(self.list, "user.note", b"mine")
         if os.geteuid() == 0:
-            os.chown(target, 12345, 54321)
-        before = os.stat(target)[:1] + os.stat(target)[4:6]
+            os.chown(self.list, 12345, 54321)
+        before = os.stat(self.list)[:1] + os.stat(self.list)[4:6]
         for flag, content in ("hidden", b"x\na\n"), ("nohidden", b"x\n"):
             run(flag, a)
-            self.assertEqual(os.readlink(self.list), b"else/one")
             self.assertEqual(self.read(), content)
-            self.assertEqual(os.lstat(target)[:1] + os.lstat(target)[4:6], before)
-            self.assertEqual(os.getxattr(target, "user.note"), b"mine")
-        os.remove(target)
-        run("hidden", a)  # makes the target anew, and removes it again
-        self.assertEqual(self.read(), b"a\n")
-        run("nohidden", a)
-        self.assertEqual(sorted(os.listdir(self.folder)), [b".hidden", b"a", b"else"])
+            self.assertEqual(os.lstat(self.list)[:1] + os.lstat(self.list)[4:6], before)
+            self.assertEqual(os.listxattr(self.list), ["user.note"])
+
+    def test_a_link_leads_to_another_list_of_the_user_alone(self):
+        a, key = self.make(b"a", b"key", content=b"x\n")
+        other = self.folder + b"/else"
+        os.mkdir(other)
+        self.make(b"else/.hidden", content=b"x\n")
+        os.symlink(b".hidden", other + b"/again")
+        for target in b"else/.hidden", other + b"/.hidden", b"else/again":
+            with self.subTest(target):
+                os.symlink(target, self.list)
+                for flag, content in ("hidden", b"x\na\n"), ("nohidden", b"x\n"):
+                    run(flag, a)
+                    self.assertEqual(os.readlink(self.list), target)
+                    self.assertEqual(self.read(), content)
+                os.remove(self.list)
+        # Emptied, it stays: what it was is for its own folder to say.
+        os.remove(other + b"/.hidden")
+        inner, = self.make(b"else/b")
+        run("hidden", inner)
+        os.symlink(b"else/.hidden", self.list)
+        self.make(b"b")
+        run("nohidden", self.folder + b"/b")
+        self.assertEqual(self.read(), b"")
+
+        refused = "The .hidden beside it is a link that is not followed"
+        os.remove(other + b"/.hidden")
+        strange, = self.make(b"else/.hidden", content=b"x\n")
+        if os.geteuid() == 0:
+            os.chown(strange, 12345, 12345)
+        targets = [b"key", key, b"nowhere", b"missing/.hidden", b".hidden", b"else/gone/../.hidden"]
+        targets += [b"else/.hidden"] if os.geteuid() == 0 else []
+        for target in targets:
+            with self.subTest(target):
+                os.remove(self.list)
+                os.symlink(target, self.list)
+                before = sorted(os.walk(self.folder))
+                done = subprocess.run([COMMAND, "hidden", a], capture_output=True)
+                self.assertEqual(done.returncode, 1)
+                if target not in (b"missing/.hidden", b"else/gone/../.hidden"):
+                    self.assertEqual(os.fsdecode(done.stderr), f"chflags: {os.fsdecode(a)}: {refused}\n")
+                self.assertEqual(sorted(os.walk(self.folder)), before)
+                for file in key, strange:
+                    with open(file, "rb") as stays:
+                        self.assertEqual(stays.read(), b"x\n")
 
     def test_what_is_no_file_is_left_alone(self):
         a, = self.make(b"a")
-        for make, says in [(os.mkfifo, "The .hidden beside it is not a file"),
-                           (lambda path: os.symlink(b".hidden", path), os.strerror(errno.ELOOP))]:
+        makers = [os.mkfifo, os.mkdir]
+        if os.geteuid() == 0:
+            makers.append(lambda path: os.mknod(path, stat.S_IFCHR | 0o666, os.makedev(1, 3)))
+        for make in makers:
             make(self.list)
-            run("hidden", a, status=1, says=f"chflags: {os.fsdecode(a)}: {says}\n")
-            os.remove(self.list)
+            run("hidden", a, status=1,
+                says=f"chflags: {os.fsdecode(a)}: The .hidden beside it is not a file\n")
+            (os.rmdir if make is os.mkdir else os.remove)(self.list)
+
+    def test_a_file_of_the_temporary_name_stays(self):
+        a, own = self.make(b"a", b".hidden.velmora", content=b"mine")
+        run("hidden", a)
+        with open(own, "rb") as file:
+            self.assertEqual(file.read(), b"mine")
+        self.assertEqual(self.read(), b"a\n")
+        self.assertEqual(len(os.listdir(self.folder)), 3)
 
     def test_the_time_always_gets_later(self):
         a, = self.make(b"a")
@@ -272,6 +319,17 @@ class Trouble(Folder):
         run("hidden", a)
         run("nohidden", a)  # one that changes something takes away what the killed ones left
         self.assertEqual(sorted(os.listdir(self.folder)), [b".hidden", b"a"])
+
+    def test_a_folder_that_somebody_keeps_locked(self):
+        a, = self.make(b"a")
+        folder = os.open(self.folder, os.O_RDONLY)
+        self.addCleanup(os.close, folder)
+        fcntl.flock(folder, fcntl.LOCK_EX)
+        began = time.monotonic()
+        run("hidden", a, status=1,
+            says=f"chflags: {os.fsdecode(a)}: {os.strerror(errno.EWOULDBLOCK)}\n")
+        self.assertLess(time.monotonic() - began, 4)
+        self.assertFalse(os.path.exists(self.list))
 
     def test_no_room_leaves_the_old(self):
         def full(error, **options):

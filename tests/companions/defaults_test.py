@@ -26,10 +26,12 @@ SCHEMAS = {
 # file below the home, its text with the setting on, the same with it off
 FILES = [
     (".config/pcmanfm-qt/default/settings.conf",
-     "; kept\r\n[Desktop]\nShowHidden=true\n\n[FolderView]\nMode=icon\nShowHidden=true\n[Window]\nA=1",
-     "; kept\r\n[Desktop]\nShowHidden=true\n\n[FolderView]\nMode=icon\nShowHidden=false\n[Window]\nA=1"),
-    (".config/pcmanfm-qt/lxqt/settings.conf", "[FolderView]\nShowHidden = true \n",
-     "[FolderView]\nShowHidden = false \n"),
+     "# kept\n\n[Desktop]\nShowHidden=true\nFont=\"Sans Serif,10\"\n\n[FolderView]\nMode=icon\n"
+     "ShowHidden=true\n\n[Window]\nState=@ByteArray(\\0\\xff)\nTitle[de]=Gr\xfc\xdfe; \n",
+     "# kept\n\n[Desktop]\nShowHidden=true\nFont=\"Sans Serif,10\"\n\n[FolderView]\nMode=icon\n"
+     "ShowHidden=false\n\n[Window]\nState=@ByteArray(\\0\\xff)\nTitle[de]=Gr\xfc\xdfe; \n"),
+    (".config/pcmanfm-qt/lxqt/settings.conf", "[FolderView]\r\nShowHidden = true \r\n[A]\nB=1",
+     "[FolderView]\nShowHidden=false\n\n[A]\nB=1\n"),
     (".config/pcmanfm/LXDE/pcmanfm.conf", "[ui]\nshow_hidden=1\nsort=name;ascending;\n",
      "[ui]\nshow_hidden=0\nsort=name;ascending;\n"),
     (".local/share/dolphin/view_properties/global/.directory",
@@ -84,8 +86,9 @@ class DefaultsTest(unittest.TestCase):
         result = subprocess.run([DEFAULTS, *arguments], env=self.environment, text=True,
                                 capture_output=True, timeout=30)
         self.assertEqual(result.returncode, status, result.stderr)
+        self.said = result.stderr
         if error is not None:
-            self.assertEqual(result.stderr, error)
+            self.assertEqual(self.said, error)
         return result.stdout
 
     def read(self):
@@ -107,7 +110,7 @@ class DefaultsTest(unittest.TestCase):
                           ["write", *PAIR, "YES"], ["write", *PAIR, ""], ["read", *PAIR, "NO"]):
             with self.subTest(arguments):
                 self.assertEqual(self.run_(*arguments, status=1), "")
-        self.assertEqual(path.read_text(), FILES[1][1])
+        self.assertEqual(path.read_bytes(), FILES[1][1].encode())
 
     def testFiles(self):
         for number, (name, on, off) in enumerate(FILES):
@@ -120,6 +123,16 @@ class DefaultsTest(unittest.TestCase):
                 self.assertEqual(path.stat().st_mode & 0o7777, 0o640)
                 self.assertEqual(list(path.parent.iterdir()), [path])
                 self.assertEqual(self.read(), "NO\n")
+
+    def testWhatCannotBeUnderstoodIsLeftAlone(self):
+        text = "no line of a settings file\n[FolderView]\nShowHidden=true\n"
+        path = self.write(FILES[0][0], text)
+        other = self.write(*FILES[1][:2])
+        self.run_("write", *PAIR, "NO", status=1)
+        self.assertIn(str(path), self.said)
+        self.assertEqual(path.read_text(), text)
+        self.assertEqual(other.read_text(), FILES[1][2])  # the others are turned off all the same
+        self.assertEqual(self.read(), "NO\n")
 
     def testLinkedFileStaysLinked(self):
         name, on, off = FILES[0]

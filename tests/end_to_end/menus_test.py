@@ -95,7 +95,7 @@ class Menus(Story):
             document = [node.queryText().getText(0, -1) for node in
                         walk(velmora.find(command, "dialog")) if node.getRoleName() == "label"]
             self.assertIn(text, document[0])
-            velmora.press("Close", "push button")
+            velmora.press("Close", "push button", "button")
             self.eventually(lambda: len(velmora.shown(command, "dialog")), 0)
         velmora.menu("Velmora", "About Velmora")
         velmora.find("Version 1.5.0")

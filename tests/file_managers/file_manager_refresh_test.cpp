@@ -5,7 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// A script stands in for the program that talks to the file managers and records its calls.
+/// A script stands in for the program that talks to the file managers and records what it reads,
+/// a line for each call.
 class FileManagerRefreshTest final : public QObject {
     Q_OBJECT
 
@@ -16,27 +17,21 @@ private slots:
         QFile script(program());
         QVERIFY(script.open(QIODevice::WriteOnly));
         script.write(
-            "#!/bin/sh\nexec 2>/dev/null\ncd \"${0%/*}\" || exit\necho \"$#:$1|$2\" >>calls\n"
+            "#!/bin/sh\nexec 2>/dev/null\ncd \"${0%/*}\" || exit\n"
+            "items=$(tr '\\0\\n' '|/')\necho \"$#$items\" >>calls\n"
             "[ -e answer ] && cat answer\n[ -e slow ] && exec sleep 600\nexit 0\n");
         script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
-    void tellsAtOnceAndTwiceMore() {
+    void tellsWhatChangedInOneTurnTogether() {
         FileManagerRefresh refresh(program());
-        refresh.setRepeatAfter(std::chrono::milliseconds(300));
         refresh.itemChanged("/tmp/a b");
-        refresh.itemChanged("/tmp/it's");
-        refresh.itemChanged("/tmp/a b");
+        refresh.itemChanged(QString::fromUtf8("/tmp/é\n"));
         QCOMPARE(calls(), QStringList());  // nothing waits for the process
-        QTRY_COMPARE(calls(), QStringList({"2:/tmp/a b|/tmp/it's"}));
+        QTRY_COMPARE(calls(), QStringList({QString::fromUtf8("0/tmp/a b|/tmp/é/|")}));
         refresh.itemChanged("/tmp/c");
-        QTRY_COMPARE(calls().size(), 6);
-        auto all = calls();
-        all.sort();
-        const QStringList expected{"1:/tmp/c|",     "2:-c|/tmp/c",
-                                   "2:-c|/tmp/c",   "2:/tmp/a b|/tmp/it's",
-                                   "3:-c|/tmp/a b", "3:-c|/tmp/a b"};
-        QCOMPARE(all, expected);
+        QTRY_COMPARE(calls().size(), 2);
+        QCOMPARE(calls().last(), "0/tmp/c|");
     }
 
     void namesManagersThatCannotBeReached() {
@@ -59,7 +54,7 @@ private slots:
         QCoreApplication::processEvents();
         QVERIFY(QFile::rename(program(), program() + "-missing"));
         refresh.itemChanged("/tmp/b");
-        QTRY_COMPARE(calls(), QStringList({"1:/tmp/b|"}));
+        QTRY_COMPARE(calls(), QStringList({"0/tmp/b|"}));
     }
 
     void whatIsLeftIsToldAfterTheEnd() {
@@ -74,17 +69,17 @@ private slots:
             timer.start();
         }
         QVERIFY(timer.elapsed() < 5000);
-        QTRY_COMPARE(calls().size(), 3);
-        auto left = calls().mid(1);
-        left.sort();
-        QCOMPARE(left, QStringList({"2:/tmp/b|/tmp/a", "5:-c|-w"}));
+        QTRY_COMPARE(calls().size(), 2);
+        QCOMPARE(calls().last(), "0/tmp/b|/tmp/a|");
     }
 
-    void tellsEachFolderOfVeryManyItems() {
+    void tellsAnyNumber() {
         FileManagerRefresh refresh(program());
-        for (int number = 0; number < 100000; ++number)
-            refresh.itemChanged(QString("/tmp/%1/%2").arg(number % 2).arg(number));
-        QTRY_COMPARE(calls(), QStringList({"2:/tmp/0/0|/tmp/1/1"}));
+        for (int number = 0; number < 100000; ++number) {
+            refresh.itemChanged(QString("/tmp/%1").arg(number));
+        }
+        QTRY_COMPARE(calls().size(), 1);
+        QCOMPARE(calls().first().count('|'), 100000);
     }
 
 private:

@@ -20,8 +20,9 @@ namespace {
 void complain(std::string_view text) {
     while (!text.empty()) {
         const ssize_t count = write(STDERR_FILENO, text.data(), text.size());
-        if (count <= 0)
+        if (count <= 0) {
             return;
+        }
         text.remove_prefix(static_cast<std::size_t>(count));
     }
 }
@@ -35,10 +36,11 @@ Item itemFor(std::string_view path) {
     const std::size_t begin = slash == std::string_view::npos ? 0 : slash + 1;
     item.folder = whole.substr(0, begin);
     item.name = whole.substr(begin);
-    if (path.empty())
+    if (path.empty()) {
         item.problem = std::strerror(ENOENT);
-    else if (item.name.empty() || item.name == "." || item.name == "..")
+    } else if (item.name.empty() || item.name == "." || item.name == "..") {
         item.problem = "The path does not end in a name";
+    }
     return item;
 }
 
@@ -46,15 +48,18 @@ void changeAll(std::vector<Item>& items, bool hidden) {
     std::unordered_map<std::string_view, std::size_t> groupOf;
     std::vector<std::vector<Item*>> groups;
     for (Item& item : items) {
-        if (item.problem)
+        if (item.problem) {
             continue;
+        }
         const auto [entry, isNew] = groupOf.emplace(item.folder, groups.size());
-        if (isNew)
+        if (isNew) {
             groups.emplace_back();
+        }
         groups[entry->second].push_back(&item);
     }
-    for (const std::vector<Item*>& group : groups)
+    for (const std::vector<Item*>& group : groups) {
         changeItems(group, hidden);
+    }
 }
 
 }  // namespace
@@ -76,17 +81,19 @@ int main(int argc, char* argv[]) {
 
     std::vector<Item> items;
     items.reserve(static_cast<std::size_t>(argc - 2));
-    for (int i = 2; i < argc; ++i)
+    for (int i = 2; i < argc; ++i) {
         items.push_back(itemFor(argv[i]));
+    }
     changeAll(items, flag == "hidden");
 
     // Now that all files are closed, so that none of them can have the place of a standard error
     // that was closed at the start.
     std::string messages;
     for (const Item& item : items) {
-        if (item.problem)
+        if (item.problem) {
             messages.append("chflags: ").append(item.path).append(": ").append(item.problem) +=
                 '\n';
+        }
     }
     complain(messages);
     return messages.empty() ? 0 : 1;

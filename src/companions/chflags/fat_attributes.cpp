@@ -23,19 +23,23 @@ constexpr char kNtfsAttributes[] = "system.ntfs_attrib_be";  // four bytes, the 
 
 void setByIoctl(int file, bool hidden) {
     std::uint32_t attributes = 0;
-    if (ioctl(file, FAT_IOCTL_GET_ATTRIBUTES, &attributes) != 0)
+    if (ioctl(file, FAT_IOCTL_GET_ATTRIBUTES, &attributes) != 0) {
         return;
+    }
     const std::uint32_t wanted = hidden ? attributes | kHiddenBit : attributes & ~kHiddenBit;
-    if (wanted != attributes)
+    if (wanted != attributes) {
         static_cast<void>(ioctl(file, FAT_IOCTL_SET_ATTRIBUTES, &wanted));
+    }
 }
 
 void setByExtendedAttribute(int file, bool hidden) {
     unsigned char bytes[4] = {};
-    if (fgetxattr(file, kNtfsAttributes, bytes, sizeof bytes) != sizeof bytes)
+    if (fgetxattr(file, kNtfsAttributes, bytes, sizeof bytes) != sizeof bytes) {
         return;
-    if (hidden == ((bytes[3] & kHiddenBit) != 0))
+    }
+    if (hidden == ((bytes[3] & kHiddenBit) != 0)) {
         return;
+    }
     bytes[3] ^= kHiddenBit;
     fsetxattr(file, kNtfsAttributes, bytes, sizeof bytes, XATTR_REPLACE);
 }
@@ -44,24 +48,29 @@ void setByExtendedAttribute(int file, bool hidden) {
 
 FatAttributes::FatAttributes(int folder) : folder_(folder) {
     struct statfs status {};
-    if (fstatfs(folder, &status) != 0)
+    if (fstatfs(folder, &status) != 0) {
         return;
+    }
     const auto type = static_cast<std::uint32_t>(status.f_type);
-    if (type == kFat || type == kExFat)
+    if (type == kFat || type == kExFat) {
         way_ = Way::Ioctl;
-    else if (type == kNtfs || type == kFuse)
+    } else if (type == kNtfs || type == kFuse) {
         way_ = Way::ExtendedAttribute;
+    }
 }
 
 void FatAttributes::setHidden(const char* name, mode_t mode, bool hidden) const {
-    if (way_ == Way::None || !(S_ISREG(mode) || S_ISDIR(mode)))
+    if (way_ == Way::None || !(S_ISREG(mode) || S_ISDIR(mode))) {
         return;  // opening a device could do something
+    }
     const FileDescriptor file(
         openat(folder_, name, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!file)
+    if (!file) {
         return;
-    if (way_ == Way::Ioctl)
+    }
+    if (way_ == Way::Ioctl) {
         setByIoctl(file.get(), hidden);
-    else
+    } else {
         setByExtendedAttribute(file.get(), hidden);
+    }
 }

@@ -49,12 +49,13 @@ std::vector<Found> findItems(int folder, std::span<Item* const> items) {
     found.reserve(items.size());
     for (Item* item : items) {
         struct stat status {};
-        if (fstatat(folder, item->name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        if (fstatat(folder, item->name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
             item->problem = std::strerror(errno);
-        else if (item->name.find('\n') != std::string::npos)
+        } else if (item->name.find('\n') != std::string::npos) {
             item->problem = "Names with a line break cannot be hidden or shown";
-        else
+        } else {
             found.push_back({item, status.st_mode});
+        }
     }
     return found;
 }
@@ -63,17 +64,26 @@ std::vector<Found> findItems(int folder, std::span<Item* const> items) {
 // no mode, and what it points to is not the item.
 void raiseAttributeEvent(int folder, const char* name) {
     struct stat status {};
-    if (fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0 || S_ISLNK(status.st_mode))
+    if (fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0 || S_ISLNK(status.st_mode)) {
         return;
+    }
     const mode_t mode = status.st_mode & 07777;
     // One step that cannot be tricked into following a link; not in the C library everywhere.
     constexpr long kFchmodat2 = 452;
-    if (syscall(kFchmodat2, folder, name, mode, AT_SYMLINK_NOFOLLOW) != 0 && errno == ENOSYS)
+    if (syscall(kFchmodat2, folder, name, mode, AT_SYMLINK_NOFOLLOW) != 0 && errno == ENOSYS) {
         fchmodat(folder, name, mode, AT_SYMLINK_NOFOLLOW);
+    }
 }
 
 const char* problemOfList(int error) {
-    return error == EISDIR ? "The .hidden beside it is not a file" : std::strerror(error);
+    switch (error) {
+        case EISDIR:
+            return "The .hidden beside it is not a file";
+        case ELOOP:
+            return "The .hidden beside it is a link that is not followed";
+        default:
+            return std::strerror(error);
+    }
 }
 
 }  // namespace
@@ -81,24 +91,28 @@ const char* problemOfList(int error) {
 void changeItems(std::span<Item* const> items, bool hidden) {
     const FileDescriptor folder = openFolder(items.front()->folder);
     if (!folder) {
-        for (Item* item : items)
+        for (Item* item : items) {
             item->problem = std::strerror(errno);
+        }
         return;
     }
     const std::vector<Found> found = findItems(folder.get(), items);
-    if (found.empty())
+    if (found.empty()) {
         return;
+    }
 
     HiddenFile file;
     if (const int error = file.open(folder.get())) {
-        for (const Found& each : found)
+        for (const Found& each : found) {
             each.item->problem = problemOfList(error);
+        }
         return;
     }
     std::vector<std::string_view> names;
     names.reserve(found.size());
-    for (const Found& each : found)
+    for (const Found& each : found) {
         names.push_back(each.item->name);
+    }
     const std::vector<bool> changed = hidden ? file.add(names) : file.remove(names);
     const bool anyChanged = std::find(changed.begin(), changed.end(), true) != changed.end();
     const int error = anyChanged ? file.save() : 0;
@@ -111,7 +125,8 @@ void changeItems(std::span<Item* const> items, bool hidden) {
             continue;
         }
         attributes.setHidden(item.name.c_str(), found[i].mode, hidden);
-        if (changed[i])
+        if (changed[i]) {
             raiseAttributeEvent(folder.get(), item.name.c_str());
+        }
     }
 }

@@ -16,8 +16,9 @@
 /// time lose nothing of each other's. Killed at any moment, the file is the old or the new one.
 class HiddenFile final {
 public:
-    /// Locks the folder and reads the file; that there is none is no error. 0 or an errno, EISDIR
-    /// for whatever is there and not a file.
+    /// Locks the folder and reads the file; that there is none is no error. 0 or an errno: EISDIR
+    /// for whatever is there and not a file, ELOOP for a link that is not followed. One is followed
+    /// to an existing file of that name alone, which belongs to the user.
     /// The folder must outlive the object.
     int open(int folder);
 
@@ -28,8 +29,8 @@ public:
     }
 
     /// Replaces the file with the changed text. Its mode, extended attributes and, where
-    /// permitted, owner stay; its modification time gets later. An empty file that was made here
-    /// is removed. 0 or an errno: then the old file is as it was.
+    /// permitted, owner stay; its modification time gets later. An empty file that was made here,
+    /// and is not reached through a link, is removed. 0 or an errno: then the old file is as it was.
     int save();
 
 private:
@@ -37,12 +38,14 @@ private:
     int lock();
     int read();
     bool mayRemove() const;
-    FileDescriptor createTemporary(const std::string& name) const;
+    FileDescriptor createTemporary(std::string& name) const;
+    bool isLeftBehind(const std::string& name) const;
     int fillTemporary(int file) const;
 
     int folder_ = -1;  // where the file is: elsewhere than asked for when `.hidden` is a link
     FileDescriptor linkedFolder_;
     std::string name_ = ".hidden";
+    bool linked_ = false;
     bool locked_ = false;
     FileDescriptor file_;
     struct stat status_ = {};  // of file_

@@ -21,8 +21,9 @@ using NameIndex = std::unordered_map<std::string_view, std::size_t>;
 NameIndex indexOf(std::span<const std::string_view> names) {
     NameIndex index;
     index.reserve(names.size());
-    for (std::size_t i = 0; i < names.size(); ++i)
+    for (std::size_t i = 0; i < names.size(); ++i) {
         index.emplace(names[i], i);
+    }
     return index;
 }
 
@@ -50,8 +51,9 @@ std::vector<ListedLine> findNames(std::string_view lines, const NameIndex& index
     while (begin < lines.size()) {
         const std::size_t lineBreak = lines.find('\n', begin);
         const auto name = index.find(lines.substr(begin, lineBreak - begin));
-        if (name != index.end())
+        if (name != index.end()) {
             found.push_back({begin, lineBreak + 1, name->second});
+        }
         begin = lineBreak + 1;
     }
     return found;
@@ -60,28 +62,35 @@ std::vector<ListedLine> findNames(std::string_view lines, const NameIndex& index
 }  // namespace
 
 int HiddenLines::read(int file, std::size_t sizeHint) {
-    if (sizeHint > kLargestFile)
+    if (sizeHint > kLargestFile) {
         return EFBIG;
+    }
     std::size_t used = lines_.size();
     lines_.resize(used + sizeHint + 1);
     for (;;) {
         const ssize_t count = ::read(file, lines_.data() + used, lines_.size() - used);
-        if (count < 0 && errno == EINTR)
+        if (count < 0 && errno == EINTR) {
             continue;
-        if (count < 0)
+        }
+        if (count < 0) {
             return errno;
-        if (count == 0)
+        }
+        if (count == 0) {
             break;
+        }
         used += static_cast<std::size_t>(count);
-        if (used > kLargestFile)
+        if (used > kLargestFile) {
             return EFBIG;
-        if (used == lines_.size())
+        }
+        if (used == lines_.size()) {
             lines_.resize(used * 2);
+        }
     }
     lines_.resize(used);
     lastLineIsOpen_ = lines_.back() != '\n';
-    if (lastLineIsOpen_)
+    if (lastLineIsOpen_) {
         lines_ += '\n';
+    }
     return 0;
 }
 
@@ -91,19 +100,23 @@ std::vector<bool> HiddenLines::add(std::span<const std::string_view> names) {
         added[0] = findName(lines_, names[0]).empty();
     } else {
         const NameIndex index = indexOf(names);
-        for (std::size_t i = 0; i < names.size(); ++i)
+        for (std::size_t i = 0; i < names.size(); ++i) {
             added[i] = index.find(names[i])->second == i;
-        for (const ListedLine& line : findNames(lines_, index))
+        }
+        for (const ListedLine& line : findNames(lines_, index)) {
             added[line.nameIndex] = false;
+        }
     }
 
     std::size_t size = lines_.size();
-    for (const std::string_view& name : names)
+    for (const std::string_view& name : names) {
         size += name.size() + 1;
+    }
     lines_.reserve(size);
     for (std::size_t i = 0; i < names.size(); ++i) {
-        if (added[i])
+        if (added[i]) {
             lines_.append(names[i]).append("\n");
+        }
     }
     return added;
 }
@@ -112,8 +125,9 @@ std::vector<bool> HiddenLines::remove(std::span<const std::string_view> names) {
     const std::vector<ListedLine> found =
         names.size() == 1 ? findName(lines_, names[0]) : findNames(lines_, indexOf(names));
     std::vector<bool> removed(names.size());
-    if (found.empty())
+    if (found.empty()) {
         return removed;
+    }
 
     const bool lastLineStays = found.back().end != lines_.size();
     std::size_t kept = found.front().begin;
@@ -125,7 +139,8 @@ std::vector<bool> HiddenLines::remove(std::span<const std::string_view> names) {
         kept += length;
     }
     lines_.resize(kept);
-    if (lastLineIsOpen_ && lastLineStays)
+    if (lastLineIsOpen_ && lastLineStays) {
         lines_.pop_back();
+    }
     return removed;
 }

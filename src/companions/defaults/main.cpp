@@ -1,19 +1,17 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <csignal>
+#include <chrono>
 #include <cstdlib>
 #include <exception>
-#include <filesystem>
 #include <iostream>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <sys/time.h>
-#include <unistd.h>
-
+#include "managers/bus.h"
 #include "managers/places.h"
+#include "managers/wait.h"
 
 namespace {
 
@@ -31,26 +29,8 @@ int doesNotExist(std::string_view domain, std::string_view key) {
     return 1;
 }
 
-/// Without a session bus GLib would start one of its own and wait for it.
-void avoidStartingBus() {
-    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-    const bool atHand =
-        std::getenv("DBUS_SESSION_BUS_ADDRESS") != nullptr ||
-        (runtime != nullptr && access((std::filesystem::path(runtime) / "bus").c_str(), F_OK) == 0);
-    if (!atHand)
-        setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent", 1);
-}
-
-/// Every press of the switch waits for the answer: with a bus that accepts connections and never
-/// speaks, ending without one is better than never.
-void limitTime() {
-    std::signal(SIGALRM, [](int) { _exit(1); });
-    const itimerval limit{{0, 0}, {0, 500000}};
-    setitimer(ITIMER_REAL, &limit, nullptr);
-}
-
 int read() {
-    limitTime();
+    endAfter(std::chrono::milliseconds(500));  // every press of the switch waits for the answer
     bool exists = false;
     for (const auto& place : allPlaces()) {
         const auto state = place->state();
@@ -60,8 +40,9 @@ int read() {
         }
         exists = exists || state == Place::State::Off;
     }
-    if (!exists)
+    if (!exists) {
         return doesNotExist(knownDomain, knownKey);
+    }
     std::cout << "NO\n";
     return 0;
 }
@@ -70,8 +51,7 @@ int turnOff() {
     int status = 0;
     for (const auto& place : allPlaces()) {
         try {
-            if (place->state() == Place::State::On)
-                place->turnOff();
+            place->turnOff();
         } catch (const std::exception& error) {
             std::cerr << "defaults: " << error.what() << '\n';
             status = 1;
@@ -93,12 +73,17 @@ int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     const bool reads = arguments.size() == 3 && arguments[0] == "read";
     const bool writes = arguments.size() == 4 && arguments[0] == "write";
-    if (!reads && !writes)
+    if (!reads && !writes) {
         return explain();
-    if (arguments[1] != knownDomain || arguments[2] != knownKey)
+    }
+    if (arguments[1] != knownDomain || arguments[2] != knownKey) {
         return doesNotExist(arguments[1], arguments[2]);
-    if (writes && !meansNo(arguments[3]))
+    }
+    if (writes && !meansNo(arguments[3])) {
         return explain();
-    avoidStartingBus();
+    }
+    if (!Bus::isAtHand()) {  // GLib would start one of its own for the settings and wait for it
+        setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent", 1);
+    }
     return reads ? read() : turnOff();
 }

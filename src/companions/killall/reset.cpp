@@ -8,7 +8,6 @@
 #include "managers/bus.h"
 #include "managers/thunar.h"
 #include "managers/wait.h"
-#include "restart.h"
 
 namespace {
 
@@ -19,22 +18,21 @@ void resetDolphin(const Bus& session, const std::string& service) {
     constexpr const char* action = "org.qtproject.Qt.QAction";
     for (const auto& window : session.childObjects(service, "/dolphin")) {
         const auto path = "/dolphin/" + window + "/actions/show_hidden_files";
-        const auto checked = session.property(service, path, action, "checked");
-        if (checked && g_variant_is_of_type(checked.get(), G_VARIANT_TYPE_BOOLEAN) &&
-            g_variant_get_boolean(checked.get()))
-            session.call(service, path, action, "trigger");
+        const auto checked = session.property(service, path, action, "checked", "b");
+        if (checked && g_variant_get_boolean(checked.get()) != FALSE) {
+            session.call(service, path, action, "trigger", nullptr, "()");
+        }
     }
 }
 
 /// The check mark of the command tells each window's own state. False when no window was found.
-bool resetByMenu(const Bus* accessibility, std::string_view program) {
-    if (accessibility == nullptr)
-        return false;
+bool resetByMenu(const Bus* accessibility, const char* program) {
     bool reached = false;
-    for (const auto& window : Accessible::windowsOf(*accessibility, program)) {
+    for (const auto& window : Accessible::windowsOf(accessibility, program)) {
         for (const auto& command : window.commandsWithKey("<Primary>h", "Ctrl+H")) {
-            if (command.isChecked())
+            if (command.isChecked()) {
                 command.activate();
+            }
             reached = true;
         }
     }
@@ -44,8 +42,9 @@ bool resetByMenu(const Bus* accessibility, std::string_view program) {
 /// With the setting removed beforehand, what appears there after a press tells the state of that
 /// one window; a window that was in order is turned back at once.
 bool resetThunar(const Thunar& thunar) {
-    if (!thunar.isReachable())
+    if (!thunar.isReachable()) {
         return false;
+    }
     const auto press = [&thunar](const SentKeys::Window& window) {
         const auto before = thunar.setting();
         return thunar.toggle(window) &&
@@ -57,17 +56,19 @@ bool resetThunar(const Thunar& thunar) {
         thunar.setSetting({});
         reached = press(window) && (thunar.setting() == false || press(window)) && reached;
     }
-    if (!windows.empty())
+    if (!windows.empty()) {
         thunar.setSetting(false);
+    }
     return reached;
 }
 
 }  // namespace
 
 std::vector<std::string> resetRunningManagers() {
-    const auto session = Bus::session();
-    if (!session)
+    const auto session = Bus::session(1s);
+    if (!session) {
         return {};
+    }
     const auto names = session->names();
     const auto runs = [&names](std::string_view name) {
         return std::find(names.begin(), names.end(), name) != names.end();
@@ -76,15 +77,18 @@ std::vector<std::string> resetRunningManagers() {
     const Bus* const tree = accessibility ? &*accessibility : nullptr;
     std::vector<std::string> missed;
     for (const auto& name : names) {
-        if (name.starts_with("org.kde.dolphin-"))
+        if (name.starts_with("org.kde.dolphin-")) {
             resetDolphin(*session, name);
+        }
     }
-    if (runs("org.Nemo") && !resetByMenu(tree, "nemo"))
+    if (runs("org.Nemo") && !resetByMenu(tree, "nemo")) {
         missed.emplace_back("Nemo");
-    if (runs("org.pcmanfm.PCManFM") && !resetByMenu(tree, "pcmanfm-qt") &&
-        !restartPcmanfmQt(*session))
+    }
+    if (runs("org.pcmanfm.PCManFM") && !resetByMenu(tree, "pcmanfm-qt")) {
         missed.emplace_back("PCManFM-Qt");
-    if (runs(Thunar::service) && !resetThunar(Thunar(*session)))
+    }
+    if (runs(Thunar::service) && !resetThunar(Thunar(*session))) {
         missed.emplace_back("Thunar");
+    }
     return missed;
 }

@@ -13,8 +13,9 @@
 /// Valid as long as the accessibility bus that it was made with.
 class Accessible final {
 public:
-    /// The windows of the running programs of that name (compared without regard to case).
-    static std::vector<Accessible> windowsOf(const Bus& accessibility, std::string_view program);
+    /// The windows of the running programs of that name (compared without regard to case); none
+    /// without a bus.
+    static std::vector<Accessible> windowsOf(const Bus* accessibility, const char* program);
 
     std::string name() const;
     bool isChecked() const;
@@ -24,19 +25,20 @@ public:
     /// The names of what the window shows, without its menus, bars and side pane; none when there
     /// are too many to ask for each.
     std::optional<std::set<std::string>> contentNames() const;
-    /// Does what a click on it would do. False when it has no action.
-    bool activate() const;
+    /// Does what a click on it would do.
+    void activate() const;
+    /// Does the first of its actions whose name ends so; does nothing when none does.
+    void activate(std::string_view nameEnd) const;
 
 private:
     Accessible(const Bus& bus, std::string service, std::string path);
 
     std::vector<Accessible> children() const;
     unsigned role() const;
-    std::string keyEquivalents() const;
     bool hasKey(std::string_view gtkKey, std::string_view qtKey) const;
-    VariantPointer call(const char* interface, const char* method,
-                        GVariant* arguments = nullptr) const;
     std::vector<Accessible> menus() const;
+    VariantPointer call(const char* method, const char* answerType) const;
+    VariantPointer callAction(const char* method, int action, const char* answerType) const;
 
     const Bus* bus_;
     std::string service_;

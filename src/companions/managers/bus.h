@@ -1,26 +1,34 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "glib_pointer.h"
 
-/// A message bus. Calls wait for their answer for a second at most and start no service.
+/// A message bus. Calls start no service, and wait for their answer for the time given.
 class Bus final {
 public:
-    /// The session's bus; none when there is none at hand, and none is started then.
-    static std::optional<Bus> session();
+    /// Without one, GLib would start one of its own and wait for it.
+    static bool isAtHand();
+    /// The session's bus; none when there is none at hand.
+    static std::optional<Bus> session(std::chrono::milliseconds answerTime);
     /// The bus of the session's accessibility services, when those run.
     std::optional<Bus> accessibility() const;
 
-    /// Takes over floating arguments. Null when the call failed or the service does not run.
+    /// Takes over floating arguments. Null when the call failed, the service does not run, or the
+    /// answer is not of the type.
     VariantPointer call(const std::string& service, const std::string& path,
                         const std::string& interface, const std::string& method,
-                        GVariant* arguments = nullptr) const;
-    /// The value of a property; null when it cannot be had.
+                        GVariant* arguments, const char* answerType) const;
+    /// The value of a property; null when it cannot be had or is not of the type.
     VariantPointer property(const std::string& service, const std::string& path,
-                            const std::string& interface, const std::string& name) const;
+                            const std::string& interface, const std::string& name,
+                            const char* type) const;
+    /// Calls a method of the bus itself.
+    VariantPointer callBus(const std::string& method, GVariant* arguments,
+                           const char* answerType) const;
     void emit(const std::string& path, const std::string& interface, const std::string& name,
               GVariant* arguments) const;
     /// The names that services have on the bus now.
@@ -30,7 +38,8 @@ public:
                                           const std::string& path) const;
 
 private:
-    explicit Bus(ObjectPointer<GDBusConnection> connection);
+    Bus(GDBusConnection* connection, std::chrono::milliseconds answerTime);
 
-    ObjectPointer<GDBusConnection> connection_;
+    GlibPointer<GDBusConnection> connection_;
+    std::chrono::milliseconds answerTime_;
 };

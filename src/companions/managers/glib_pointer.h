@@ -7,9 +7,10 @@
 /// Owners of what GLib hands out.
 struct GlibRelease {
     void operator()(GError* error) const { g_error_free(error); }
-    void operator()(GVariant* value) const { g_variant_unref(value); }
+    void operator()(GKeyFile* file) const { g_key_file_unref(file); }
     void operator()(GSettingsSchema* schema) const { g_settings_schema_unref(schema); }
-    void operator()(const char** strings) const { g_free(strings); }
+    void operator()(GVariant* value) const { g_variant_unref(value); }
+    void operator()(char* text) const { g_free(text); }
     template <typename Object>
     void operator()(Object* object) const {
         g_object_unref(object);
@@ -17,7 +18,5 @@ struct GlibRelease {
 };
 
 template <typename Object>
-using ObjectPointer = std::unique_ptr<Object, GlibRelease>;
-using ErrorPointer = std::unique_ptr<GError, GlibRelease>;
-using VariantPointer = std::unique_ptr<GVariant, GlibRelease>;
-using SchemaPointer = std::unique_ptr<GSettingsSchema, GlibRelease>;
+using GlibPointer = std::unique_ptr<Object, GlibRelease>;
+using VariantPointer = GlibPointer<GVariant>;

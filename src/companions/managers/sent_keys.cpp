@@ -16,8 +16,6 @@ struct Free {
 template <typename Reply>
 using ReplyPointer = std::unique_ptr<Reply, Free>;
 
-constexpr uint32_t longEnough = 4096;  // of a property, in units of four bytes
-
 struct Key {
     xcb_keycode_t code;
     uint16_t group;  // as it stands in an event's state: the keyboard layout the letter is in
@@ -28,16 +26,18 @@ std::optional<Key> keyOf(xcb_connection_t* connection, xcb_keysym_t symbol) {
     const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
     const ReplyPointer<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
         connection, xcb_get_keyboard_mapping(connection, setup->min_keycode, count), nullptr));
-    if (!mapping)
+    if (!mapping) {
         return {};
+    }
     const auto* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
     const int columns = mapping->keysyms_per_keycode;
     // Two columns for each of the first two layouts; what follows is ordered differently.
     for (int column = 0; column < std::min(columns, 4); ++column) {
         for (int key = 0; key < count; ++key) {
-            if (symbols[key * columns + column] == symbol)
+            if (symbols[key * columns + column] == symbol) {
                 return Key{static_cast<xcb_keycode_t>(setup->min_keycode + key),
                            static_cast<uint16_t>((column / 2) << 13)};
+            }
         }
     }
     return {};
@@ -48,13 +48,16 @@ std::optional<Key> keyOf(xcb_connection_t* connection, xcb_keysym_t symbol) {
 SentKeys::SentKeys() {
     int number = 0;
     connection_.reset(xcb_connect(nullptr, &number));
-    if (!isConnected())
+    if (!isConnected()) {
         return;
+    }
     auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection_.get()));
-    for (; screens.rem > 0 && number > 0; --number)
+    for (; screens.rem > 0 && number > 0; --number) {
         xcb_screen_next(&screens);
-    if (screens.rem > 0)
+    }
+    if (screens.rem > 0) {
         root_ = screens.data->root;
+    }
 }
 
 bool SentKeys::isConnected() const {
@@ -69,60 +72,53 @@ xcb_atom_t SentKeys::atom(std::string_view name) const {
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
-std::string SentKeys::textProperty(xcb_window_t window, xcb_atom_t property) const {
+std::string SentKeys::text(xcb_window_t window, xcb_atom_t property) const {
+    constexpr uint32_t longEnough = 4096;  // in units of four bytes
     const ReplyPointer<xcb_get_property_reply_t> reply(
         xcb_get_property_reply(connection_.get(),
                                xcb_get_property(connection_.get(), 0, window, property,
                                                 XCB_GET_PROPERTY_TYPE_ANY, 0, longEnough),
                                nullptr));
-    if (!reply || reply->format != 8)
+    if (!reply) {
         return {};
+    }
     return {static_cast<const char*>(xcb_get_property_value(reply.get())),
             static_cast<size_t>(xcb_get_property_value_length(reply.get()))};
 }
 
-xcb_atom_t SentKeys::firstAtom(xcb_window_t window, xcb_atom_t property) const {
-    const ReplyPointer<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        connection_.get(),
-        xcb_get_property(connection_.get(), 0, window, property, XCB_ATOM_ATOM, 0, 1), nullptr));
-    return reply && reply->format == 32 && reply->value_len == 1
-               ? *static_cast<const xcb_atom_t*>(xcb_get_property_value(reply.get()))
-               : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+std::vector<uint32_t> SentKeys::numbers(xcb_window_t window, xcb_atom_t property) const {
+    const auto bytes = text(window, property);
+    std::vector<uint32_t> numbers(bytes.size() / sizeof(uint32_t));
+    std::memcpy(numbers.data(), bytes.data(), numbers.size() * sizeof(uint32_t));
+    return numbers;
 }
 
-std::vector<SentKeys::Window> SentKeys::windowsOf(std::string_view windowClass, Kind kind) const {
+std::vector<SentKeys::Window> SentKeys::windowsOf(const char* windowClass) const {
     std::vector<Window> windows;
-    if (!isConnected())
+    if (!isConnected()) {
         return windows;
-    const ReplyPointer<xcb_get_property_reply_t> list(xcb_get_property_reply(
-        connection_.get(),
-        xcb_get_property(connection_.get(), 0, root_, atom("_NET_CLIENT_LIST"), XCB_ATOM_WINDOW, 0,
-                         longEnough),
-        nullptr));
-    if (!list || list->format != 32)
-        return windows;
-    const auto* ids = static_cast<const xcb_window_t*>(xcb_get_property_value(list.get()));
+    }
     const auto title = atom("_NET_WM_NAME");
     const auto type = atom("_NET_WM_WINDOW_TYPE");
-    const auto wanted =
-        atom(kind == Kind::Normal ? "_NET_WM_WINDOW_TYPE_NORMAL" : "_NET_WM_WINDOW_TYPE_DIALOG");
-    for (uint32_t number = 0; number < list->value_len; ++number) {
-        if (firstAtom(ids[number], type) != wanted)
-            continue;
+    const auto normal = atom("_NET_WM_WINDOW_TYPE_NORMAL");
+    for (const auto window : numbers(root_, atom("_NET_CLIENT_LIST"))) {
+        const auto types = numbers(window, type);
         // Two texts, each with a zero byte at its end: the instance and the class.
-        const auto names = textProperty(ids[number], XCB_ATOM_WM_CLASS);
+        const auto names = text(window, XCB_ATOM_WM_CLASS);
         const auto start = names.find('\0');
-        if (start != std::string::npos &&
-            g_ascii_strcasecmp(names.c_str() + start + 1, std::string(windowClass).c_str()) == 0)
-            windows.push_back({ids[number], textProperty(ids[number], title)});
+        if (!types.empty() && types.front() == normal && start != std::string::npos &&
+            g_ascii_strcasecmp(names.c_str() + start + 1, windowClass) == 0) {
+            windows.push_back({window, text(window, title)});
+        }
     }
     return windows;
 }
 
 bool SentKeys::send(const Window& window, xcb_keysym_t symbol, bool withControl) const {
     const auto key = keyOf(connection_.get(), symbol);
-    if (!key)
+    if (!key) {
         return false;
+    }
     xcb_key_press_event_t event{};
     event.detail = key->code;
     event.root = root_;

@@ -20,10 +20,9 @@ public:
     SentKeys();
 
     bool isConnected() const;
-    enum class Kind { Normal, Dialog };
-
-    /// The windows of that kind of the programs of that class (compared without regard to case).
-    std::vector<Window> windowsOf(std::string_view windowClass, Kind kind = Kind::Normal) const;
+    /// The normal windows, dialogs and desktops left out, of the programs of that class (compared
+    /// without regard to case).
+    std::vector<Window> windowsOf(const char* windowClass) const;
     /// Sends a press and a release of the key that gives the symbol, alone or with the control
     /// key. False when no key of the keyboard gives it.
     bool send(const Window& window, xcb_keysym_t symbol, bool withControl) const;
@@ -33,9 +32,9 @@ private:
         void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
     };
 
-    std::string textProperty(xcb_window_t window, xcb_atom_t property) const;
-    xcb_atom_t firstAtom(xcb_window_t window, xcb_atom_t property) const;
     xcb_atom_t atom(std::string_view name) const;
+    std::string text(xcb_window_t window, xcb_atom_t property) const;
+    std::vector<uint32_t> numbers(xcb_window_t window, xcb_atom_t property) const;
 
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_window_t root_ = XCB_NONE;

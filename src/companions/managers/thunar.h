@@ -1,11 +1,11 @@
 #pragma once
 
 #include <optional>
-#include <string_view>
 #include <vector>
 
 #include "bus.h"
 #include "sent_keys.h"
+#include "xfconf.h"
 
 /// Thunar's windows and the "show hidden files" command in them. Thunar makes its menus when they
 /// are opened, and offers nothing of the kind to other programs, but each window takes the
@@ -18,17 +18,18 @@ public:
 
     /// Whether keys reach its windows: an X display, and the command's key as it comes.
     bool isReachable() const;
-    std::vector<SentKeys::Window> windows() const;
+    std::vector<SentKeys::Window> windows() const { return keys_.windowsOf("Thunar"); }
     /// Turns the display of hidden files over in one window. False when it cannot be sent; what
     /// comes of it shows in setting().
-    bool toggle(const SentKeys::Window& window) const;
+    bool toggle(const SentKeys::Window& window) const { return keys_.send(window, 'h', true); }
 
     /// The setting for new windows; none when it was never stored.
-    std::optional<bool> setting() const;
+    std::optional<bool> setting() const { return setting_.value(); }
     /// Stores it, or removes it when there is none, and returns when Thunar knows.
     void setSetting(std::optional<bool> shown) const;
 
 private:
     const Bus& session_;
     SentKeys keys_;
+    Xfconf setting_{&session_, "thunar", "last-show-hidden"};
 };

@@ -2,18 +2,15 @@
 
 #include <algorithm>
 #include <fstream>
-#include <memory>
 #include <system_error>
 
-#include <glib.h>
 #include <sys/stat.h>
+
+#include "managers/glib_pointer.h"
 
 namespace {
 
-struct GlibFree {
-    void operator()(char* text) const { g_free(text); }
-};
-using Text = std::unique_ptr<char, GlibFree>;
+using Text = GlibPointer<char>;
 
 std::string displayName(const std::filesystem::path& path) {
     return Text(g_filename_display_basename(path.c_str())).get();
@@ -34,9 +31,6 @@ bool isSame(const std::filesystem::path& path, const char* other) {
 }  // namespace
 
 Folder::Folder(std::filesystem::path path) {
-    if (path.empty())
-        path = ".";
-    path = std::filesystem::absolute(path).lexically_normal();
     const Text uri(g_filename_to_uri(path.c_str(), nullptr, nullptr));
     uri_ = uri ? uri.get() : "";
     name_ = displayName(path);
@@ -57,8 +51,9 @@ bool Folder::mayBeIn(const std::string& title) const {
 bool Folder::isShownRightBy(const std::set<std::string>& names) const {
     std::set<std::string> hidden;
     std::ifstream list(path_ / ".hidden");
-    for (std::string line; std::getline(list, line);)
+    for (std::string line; std::getline(list, line);) {
         hidden.insert(line);
+    }
     return std::all_of(items_.begin(), items_.end(), [&](const std::string& item) {
         return names.contains(displayName(item)) != hidden.contains(item);
     });

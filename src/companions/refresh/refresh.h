@@ -1,8 +1,9 @@
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <vector>
+
+#include "pending_items.h"
 
 /// A running file manager whose windows could not be told, and what a user presses there.
 struct Unreached {
@@ -14,5 +15,4 @@ struct Unreached {
 /// look again at what is hidden there. Selections, scroll positions and the keyboard focus stay;
 /// of the items nothing changes but the time of their last change of attributes.
 /// With `onlyWrong`, windows that are seen to list the items as they should are left in peace.
-std::vector<Unreached> refreshWindows(const std::vector<std::filesystem::path>& items,
-                                      bool onlyWrong);
+std::vector<Unreached> refreshWindows(const Items& items, bool onlyWrong);

@@ -1,0 +1,10 @@
+# What only the macOS program is made of. It is plain C++ and compiled everywhere, so that it keeps
+# up with the headers it stands behind; elsewhere nothing is linked with it.
+if(APPLE)
+  return()
+endif()
+file(GLOB macos_sources CONFIGURE_DEPENDS
+     ${PROJECT_SOURCE_DIR}/src/*/*_mac.cpp ${PROJECT_SOURCE_DIR}/src/*/mac_*.cpp)
+add_library(velmora_macos OBJECT ${macos_sources})
+set_target_properties(velmora_macos PROPERTIES AUTOMOC OFF)
+target_link_libraries(velmora_macos PRIVATE velmora_window velmora_flags)
