@@ -100,10 +100,8 @@ void measureDrop(int rounds) {
     for (int round = 0; round < rounds; ++round) {
         QByteArray addresses;
         for (qsizetype i = 0; i < before->size(); ++i) {
-            addresses += QStringLiteral("file:///home/user/Documents/round-%1/Paper-%2.txt\r\n")
-                             .arg(round)
-                             .arg(i)
-                             .toUtf8();
+            addresses += "file:///home/user/Round-" + QByteArray::number(round) + "/Paper-" +
+                         QByteArray::number(i) + ".txt\r\n";
         }
         QMimeData drag;
         drag.setData(QStringLiteral("text/uri-list"), addresses);

@@ -59,9 +59,8 @@ class Bench:
         self.place.store([])
         folder = self.place.home / "empty"
         folder.mkdir()
-        programs = ((BIN / "velmora",), ("pcmanfm-qt", folder))
         rounds = [[float(self.output(BIN / "bench_window_watch", *program))
-                   for program in programs] for _ in range(9)]
+                   for program in ((BIN / "velmora",), ("pcmanfm-qt", folder))] for _ in range(9)]
         figure, floor = medians(rounds[1:])
         self.add("start until the window is there, beside pcmanfm-qt", figure, floor, 0.5 * floor,
                  "0.5 times")
@@ -70,11 +69,9 @@ class Bench:
         for count, rounds, factor in ((1000, 3, 1.3), (10_000, 1, 1.5)):
             paths = self.place.items(count, folder_size=count)
             found = {"quit": [], "launch": []}
-            # Each pass finds everything as the other one has left it.
-            for _ in range(rounds):
-                for kind, measured in found.items():
-                    self.place.store(paths, **PREFERENCES)
-                    measured += self.work(kind, 1)
+            for kind in [*found] * rounds:  # each finds everything as the other one has left it
+                self.place.store(paths, **PREFERENCES)
+                found[kind] += self.work(kind, 1)
             for kind, measured in found.items():
                 figure, floor = medians(measured)
                 self.add(f"one item of a {kind} pass, {count:,} items", figure, floor,
@@ -82,10 +79,9 @@ class Bench:
 
     def press(self):
         at = {10: [], 100_000: []}
-        for _ in range(5):
-            for count, rounds in at.items():
-                self.place.store(self.place.items(count))
-                rounds += self.work("press", 6)
+        for count in [*at] * 5:
+            self.place.store(self.place.items(count))
+            at[count] += self.work("press", 6)
         figure, floor = medians(at[10])
         large, _ = medians(at[100_000])
         self.add("a press of the switch, 10 items", figure, floor, floor + 5, "plus 5 ms")
@@ -98,10 +94,9 @@ class Bench:
         figure, _ = medians(self.work("sort", 12))
         self.add("a sort of 100,000 items", figure, None, 33, "33 ms")
         at = {5000: [], 10_000: [], 20_000: []}
-        for _ in range(3):
-            for count, rounds in at.items():
-                self.place.store(self.place.items(count))
-                rounds += self.work("drop", 3)
+        for count in [*at] * 3:
+            self.place.store(self.place.items(count))
+            at[count] += self.work("drop", 3)
         few, figure, many = (medians(rounds)[0] for rounds in at.values())
         self.add("a drop of 10,000 paths onto 10,000", figure, None, figure * 5 * few / many,
                  f"linear: of four times as many ≤ 5 times (is {many / few:.1f})")

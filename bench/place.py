@@ -33,7 +33,7 @@ class Place(contextlib.ExitStack):
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().strip()
 
     def start(self, *command):
-        """Starts a program that tells something first, and is ended with the place."""
+        """Starts a program that is ended with the place."""
         process = subprocess.Popen(command, env=self.environment, stdin=subprocess.DEVNULL,
                                    stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
         self.callback(end, process)
@@ -59,8 +59,7 @@ class Place(contextlib.ExitStack):
         folder = pathlib.Path(self.environment["XDG_CONFIG_HOME"], "velmora")
         shutil.rmtree(folder, ignore_errors=True)
         folder.mkdir(mode=0o700)
-        text = json.dumps({"fileListView_List": records, **entries})
-        (folder / "defaults.json").write_text(text)
+        (folder / "defaults.json").write_text(json.dumps({"fileListView_List": records, **entries}))
 
 
 def end(process):

@@ -11,7 +11,6 @@
 
 #include "platform/application.h"
 #include "platform/bundle.h"
-#include "platform/log.h"
 #include "platform/shell.h"
 
 namespace {
@@ -43,9 +42,7 @@ ShownWindow::ShownWindow(int rows) {
 
 /// bench_work KIND ROUNDS, as measure.py runs it.
 int main(int argc, char** argv) {
-    Log::install();
     Application application(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("velmora"));
     Bundle::loadTranslations();
     Shell::setCompanionsFolder(Shell::defaultCompanionsFolder());
     // The floors run the same commands.
