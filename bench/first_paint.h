@@ -1,20 +1,40 @@
 #pragma once
 
-#include <QObject>
+#include <chrono>
+#include <cstdio>
+
+#include <unistd.h>
+
+#include <QApplication>
+#include <QMainWindow>
 
 /// Tells on standard output, in nanoseconds of the monotonic clock, when the first main window of
 /// this process was painted and handed to the display. Ends the process then, unless it is to stay
 /// for its memory to be looked at ("--stay" among the arguments).
 class FirstPaint final : public QObject {
 public:
-    explicit FirstPaint(const QStringList& arguments);
+    FirstPaint() { QCoreApplication::instance()->installEventFilter(this); }
 
-    bool eventFilter(QObject* object, QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (!seen_ && event->type() == QEvent::Paint && object->isWidgetType() &&
+            qobject_cast<QMainWindow*>(static_cast<QWidget*>(object)->window()) != nullptr) {
+            seen_ = true;
+            // Next after the whole window was painted and flushed.
+            QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
+        }
+        return false;
+    }
 
 protected:
-    void customEvent(QEvent* event) override;
+    void customEvent(QEvent* /*event*/) override {
+        const std::chrono::nanoseconds now = std::chrono::steady_clock::now().time_since_epoch();
+        std::printf("%lld\n", static_cast<long long>(now.count()));
+        std::fflush(stdout);
+        if (!QCoreApplication::arguments().contains(QStringLiteral("--stay"))) {
+            _exit(0);
+        }
+    }
 
 private:
-    bool stay_;
     bool seen_ = false;
 };

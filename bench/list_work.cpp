@@ -1,22 +1,43 @@
 #include <algorithm>
-#include <vector>
 
 #include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
-#include <QUrl>
+#include <QStringListModel>
+#include <QStyledItemDelegate>
 
-#include "bare_list.h"
-#include "main_window.h"
 #include "work.h"
 
 namespace {
 
-QStringList titlesOf(const ItemList& list) {
-    QStringList titles;
-    titles.reserve(list.size());
-    list.forEach([&](const ItemRecord& record) { titles << record.fileTitle(); });
-    return titles;
-}
+/// The floor of a row: an icon and two texts, and nothing else.
+class BareDelegate final : public QStyledItemDelegate {
+public:
+    BareDelegate(QObject* parent, int rowHeight)
+        : QStyledItemDelegate(parent), rowHeight_(rowHeight), icon_(24, 24) {
+        icon_.fill(Qt::darkCyan);
+    }
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        const QRect title = option.rect.adjusted(40, 0, -70, 0);
+        painter->fillRect(option.rect, Qt::white);
+        painter->drawPixmap(option.rect.topLeft() + QPoint(8, (rowHeight_ - 24) / 2), icon_);
+        painter->drawText(title, Qt::AlignVCenter | Qt::TextSingleLine,
+                          painter->fontMetrics().elidedText(index.data().toString(),
+                                                            Qt::ElideMiddle, title.width()));
+        painter->drawText(title.translated(title.width(), 0), Qt::AlignVCenter,
+                          QStringLiteral("Visible"));
+    }
+    QSize sizeHint(const QStyleOptionViewItem& /*option*/,
+                   const QModelIndex& /*index*/) const override {
+        return {1, rowHeight_};
+    }
+
+private:
+    int rowHeight_;
+    QPixmap icon_;
+};
 
 void showPage(QListView& list, int page, int rows, int rowHeight) {
     QScrollBar* bar = list.verticalScrollBar();
@@ -28,88 +49,69 @@ void showPage(QListView& list, int page, int rows, int rowHeight) {
 
 void measureScroll(int rounds) {
     constexpr int rows = 20;
-    MainWindow window;
-    window.load();
-    window.show(rows);
+    ShownWindow window(rows);
     DragDropTableView& table = window.table();
-    BareList bare(titlesOf(*window.list().fileLists()), table.rowHeight());
+    QStringList titles;
+    window.list().fileLists()->forEach(
+        [&titles](const ItemRecord& record) { titles << record.fileTitle(); });
+    QListView bare;
+    QStringListModel model(titles);
+    bare.setModel(&model);
+    bare.setItemDelegate(new BareDelegate(&bare, table.rowHeight()));
+    bare.setUniformItemSizes(true);
+    bare.setVerticalScrollMode(QListView::ScrollPerPixel);
+    bare.setFrameShape(QFrame::NoFrame);
     bare.resize(table.viewport()->size() + QSize(bare.verticalScrollBar()->sizeHint().width(), 0));
     bare.show();
     comeToRest();
     for (int round = 1; round <= rounds + 2; ++round) {
         const int page = round * 37;
         const double ours = milliseconds([&] { showPage(table, page, rows, table.rowHeight()); });
-        const double icons = milliseconds([&] { comeToRest(); });
+        comeToRest();
         const double floor = milliseconds([&] { showPage(bare, page, rows, table.rowHeight()); });
         comeToRest();
         if (round > 2) {
-            tell("scroll", ours, floor, icons);
+            tell(ours, floor);
         }
     }
 }
 
 void measureSort(int rounds) {
-    MainWindow window;
-    window.load();
-    window.show(10);
-    const auto reload = [&window] {
-        window.table().reloadData();
-        window.table().viewport()->repaint();
-    };
-    const QStringList titles = titlesOf(*window.list().fileLists());
+    ShownWindow window(10);
+    const std::optional<ItemList> scattered = window.list().fileLists();
     for (int round = 0; round < rounds; ++round) {
-        const double sort = milliseconds([&] {
+        // From the order of the store, which has nothing to do with the titles, every other time.
+        if (round % 2 == 0) {
+            window.list().setFileLists(scattered);
+            window.list().reloadData();
+            comeToRest();
+        }
+        tell(milliseconds([&] {
             window.list().topViw()->leftButton()->click();
             window.table().viewport()->repaint();
-        });
+        }));
         comeToRest();
-        const double reloading = milliseconds(reload);
-        comeToRest();
-        // Each from the order that the other way round has left.
-        std::vector<QString> strings(titles.cbegin(), titles.cend());
-        if (round % 2 == 0) {
-            std::sort(strings.begin(), strings.end(), std::greater<>());
-            const double floor = milliseconds([&] { std::sort(strings.begin(), strings.end()); });
-            tell("sort", sort, floor, reloading);
-        } else {
-            std::sort(strings.begin(), strings.end());
-            const double floor =
-                milliseconds([&] { std::sort(strings.begin(), strings.end(), std::greater<>()); });
-            tell("sort", sort, floor, reloading);
-        }
     }
 }
 
-void measureDrop(int rounds, int dropped) {
-    MainWindow window;
-    window.load();
-    window.show(10);
+void measureDrop(int rounds) {
+    ShownWindow window(10);
     const std::optional<ItemList> before = window.list().fileLists();
     for (int round = 0; round < rounds; ++round) {
-        QList<QUrl> addresses;
-        for (int i = 0; i < dropped; ++i) {
-            addresses << QUrl::fromLocalFile(
-                QStringLiteral("/home/user/Documents/round %1/Paper %2.txt").arg(round).arg(i));
+        QByteArray addresses;
+        for (qsizetype i = 0; i < before->size(); ++i) {
+            addresses += "file:///home/user/Round-" + QByteArray::number(round) + "/Paper-" +
+                         QByteArray::number(i) + ".txt\r\n";
         }
-        QMimeData source;
-        source.setUrls(addresses);
-        // As a drag brings it, one text of addresses.
         QMimeData drag;
-        drag.setData(QStringLiteral("text/uri-list"), source.data(QStringLiteral("text/uri-list")));
-        const double floor = milliseconds([&] {
-            QStringList paths;
-            for (const QUrl& url : drag.urls()) {
-                paths << url.toLocalFile();
-            }
-        });
-        const double drop = milliseconds([&] {
+        drag.setData(QStringLiteral("text/uri-list"), addresses);
+        tell(milliseconds([&] {
             window.list().prepareForDragOperation(&drag);
             window.table().viewport()->repaint();
-        });
+        }));
         comeToRest();
         window.list().setFileLists(before);
         window.list().reloadData();
         comeToRest();
-        tell("drop", drop, floor);
     }
 }

@@ -1,67 +1,61 @@
-"""Tables and curves of what was measured."""
+"""The table of what was measured, and its picture."""
 
 import re
-import shutil
-import subprocess
 
-HEADS = ("Work", "Figure", "Floor", "Ratio", "Goal", "")
-BESIDE = ("Program", "Window on the display", "Memory of its own", "Resident")
-PLOT = """
-set terminal pngcairo size 1000,640 font "sans,11" background "white"
-set output "{target}"
-set logscale xy
-set xlabel "items"
-set ylabel "milliseconds"
-set format x "%.0s%c"
-set key outside right top
-set grid
-set datafile separator "\\t"
-plot for [i=2:{columns}] "{data}" using 1:i with linespoints linewidth 2 pointtype 7 \
-    title columnheader(i)
-"""
+HEADS = ("Work", "Figure", "Floor", "Times", "Goal", "")
+MARK = "<!-- table -->"
+LEFT, BAR, STEP = 380, 260, 24  # of the picture: the names' width, a whole goal's, a line's height
 
 
-def aligned(table):
-    widths = [max(len(cells[i]) for cells in table) for i in range(len(table[0]))]
-    return "\n".join("  ".join(cell.ljust(width) for cell, width in zip(cells, widths)).rstrip()
-                     for cells in table)
+class Row:
+    """One line: the figure, what it stands beside, and the most that it may be."""
+
+    def __init__(self, work, figure, floor, limit, goal, unit):
+        self.work = work
+        self.figure = f"{figure:.3g} {unit}"
+        self.floor = f"{floor:.3g} {unit}" if floor else "–"
+        self.ratio = f"{figure / floor:.2f}" if floor else "–"
+        self.goal = goal
+        self.share = figure / limit
+
+    def cells(self):
+        met = "met" if self.share <= 1 else "not met"
+        return self.work, self.figure, self.floor, self.ratio, self.goal, met
+
+    def __str__(self):
+        return "{:51}{:>9}{:>9}{:>6}  {:20}{}".format(*self.cells())
 
 
-def markdown(table):
-    lines = ["| " + " | ".join(cells) + " |" for cells in table]
-    lines.insert(1, "|" + "---|" * len(table[0]))
-    return "\n".join(lines) + "\n"
+def markdown(rows):
+    table = [HEADS, ["---"] * len(HEADS)] + [row.cells() for row in rows]
+    return "".join("| " + " | ".join(cells) + " |\n" for cells in table)
 
 
-def plot(growth, folder):
-    """The curves as a picture, and their figures as a table."""
-    names = list(next(iter(growth.values())))
-    rows = [["items", *names]] + [[str(count), *(f"{points[name]:.3f}" for name in names)]
-                                  for count, points in growth.items()]
-    data = folder / "growth.tsv"
-    data.write_text("\n".join("\t".join(row) for row in rows) + "\n")
-    script = PLOT.format(target=folder / "growth.png", data=data, columns=len(names) + 1)
-    subprocess.run(["gnuplot"], input=script, text=True, check=True)
-    table = [["ms at", *(f"{count:,}" for count in growth)]]
-    table += [[name, *(f"{points[name]:.3g}" for points in growth.values())] for name in names]
-    (folder / "growth.md").write_text(markdown(table))
-    print("\n" + aligned(table))
+def picture(rows):
+    """How much of its goal each work takes, as bars beside the line of the whole goal."""
+    height = STEP * (len(rows) + 2)
+    goal = LEFT + BAR
+    parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{goal + 180}" height="{height}" '
+             'font-family="sans-serif" font-size="13">',
+             '<rect width="100%" height="100%" fill="white"/>']
+    for line, row in enumerate(rows):
+        top = STEP * (line + 0.5)
+        width, fill = BAR * min(row.share, 1.5), "#3b6fb5" if row.share <= 1 else "#c0392b"
+        parts.append(f'<text x="{LEFT - 10}" y="{top + 16}" text-anchor="end">{row.work}</text>'
+                     f'<rect x="{LEFT}" y="{top + 4}" width="{width:.0f}" height="{STEP - 8}" '
+                     f'fill="{fill}"/>'
+                     f'<text x="{LEFT + width + 6:.0f}" y="{top + 16}">{row.share:.0%}</text>')
+    parts.append(f'<path d="M{goal} 6 V{height - STEP}" stroke="#555" stroke-dasharray="4 3"/>'
+                 f'<text x="{goal}" y="{height - 8}" text-anchor="middle">goal</text></svg>')
+    return "\n".join(parts) + "\n"
 
 
-ALL = {name: name for name in ("table", "beside", "growth")}
-
-
-def record(results, docs, marks=ALL):
-    """Puts the tables of this run between their marks in docs/speed.md, and the picture beside."""
+def record(rows, docs):
+    """Puts the table between its marks in docs/speed.md, and the picture beside it."""
     document = docs / "speed.md"
-    text = document.read_text()
-    for name, place in marks.items():
-        part = results / f"{name}.md"
-        if part.exists():
-            mark = f"<!-- {place} -->"
-            text = re.sub(f"{mark}.*?{mark}",
-                          lambda _, part=part, mark=mark: f"{mark}\n{part.read_text()}{mark}",
-                          text, flags=re.DOTALL)
+    text, found = re.subn(f"{MARK}.*{MARK}", lambda _: f"{MARK}\n{markdown(rows)}{MARK}",
+                          document.read_text(), flags=re.DOTALL)
+    if found != 1:
+        raise SystemExit(f"{document} has no place for the table.")
     document.write_text(text)
-    if "growth" in marks and (results / "growth.png").exists():
-        shutil.copy(results / "growth.png", docs / "images" / "growth.png")
+    (docs / "images" / "speed.svg").write_text(picture(rows))

@@ -1,12 +1,17 @@
-#include <optional>
-
-#include <QCoreApplication>
-
 #include "app/launch.h"
 #include "first_paint.h"
 
+namespace {
+
+void watch() {
+    [[maybe_unused]] static const FirstPaint firstPaint;
+}
+
+}  // namespace
+
+Q_COREAPP_STARTUP_FUNCTION(watch)
+
 /// The program itself, watched.
 int main(int argc, char** argv) {
-    std::optional<FirstPaint> firstPaint;
-    return launch(argc, argv, [&] { firstPaint.emplace(QCoreApplication::arguments()); });
+    return launch(argc, argv);
 }

@@ -3,7 +3,9 @@
 #include <chrono>
 #include <cstdio>
 
-#include <QStringList>
+#include "app/main_window.h"
+#include "state/user_defaults.h"
+#include "ui_Main.h"
 
 /// Milliseconds that the work takes.
 template <typename Work>
@@ -14,22 +16,31 @@ double milliseconds(Work&& work) {
     return time.count();
 }
 
-/// One measured round, a line on standard output: a name and its figures, figure and floor first.
-template <typename... Figure>
-void tell(const char* name, Figure... figures) {
-    std::printf("%s", name);
-    (std::printf(" %.6f", static_cast<double>(figures)), ...);
-    std::printf("\n");
+/// One measured round, a line on standard output: figure and floor.
+inline void tell(double figure, double floor = 0) {
+    std::printf("%.6f %.6f\n", figure, floor);
     std::fflush(stdout);
 }
 
-/// The kinds of work, each measured `rounds` times against its floor in turns. All but the passes
-/// leave the window at rest between two rounds.
+/// Lets everything that is under way come to its end: saves, icons, commands that were started.
+void comeToRest();
+
+/// The program's main window on the user's store, at rest, with room for so many rows.
+struct ShownWindow {
+    explicit ShownWindow(int rows);
+
+    DragDropView& list() { return *main.outlets().fileListView; }
+    DragDropTableView& table() { return *list().tableView(); }
+
+    UserDefaults defaults{UserDefaults::standardFile()};
+    MainWindow main;
+};
+
+/// Each kind of work is measured `rounds` times, in turns with its floor where it has one.
 void measurePress(int rounds);
 void measureScroll(int rounds);
 void measureSort(int rounds);
-/// `folder` holds nothing; the paths need not exist.
-void measureDrop(int rounds, int dropped);
-/// One round of these is a pass over `part` items of the list.
-void measureLaunchPass(int part);
-void measureQuitPass(int part);
+/// Drops as many paths as the list has; they need not exist.
+void measureDrop(int rounds);
+/// One item of a quit pass or a launch pass over the whole list.
+void measurePass(bool quit);

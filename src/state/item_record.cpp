@@ -40,83 +40,89 @@ QStringView lastPathComponent(QStringView path) {
 }
 
 ItemRecord ItemRecord::forPath(const QString& path, VisibleForm visible) {
-    ItemRecord record;
-    record.path_ = path.isNull() ? QStringLiteral("") : path;
-    record.form_ = visible;
-    return record;
+    auto* entry = new Entry;
+    entry->path = path.isNull() ? QStringLiteral("") : path;
+    entry->form = visible;
+    return ItemRecord(entry);
 }
 
 ItemRecord ItemRecord::fromVariant(const QVariant& value) {
     const QVariant stored = storedForm(value);
-    ItemRecord record;
-    const bool dictionary = stored.typeId() == QMetaType::QVariantMap;
     const QVariantMap entries = stored.toMap();
-    if (dictionary && entries.isEmpty())
-        return record;
-
-    record.path_ = textEntry(entries, filePathKey);
+    if (stored.typeId() == QMetaType::QVariantMap && entries.isEmpty()) {
+        return {};
+    }
+    const QString path = textEntry(entries, filePathKey);
     const QString title = textEntry(entries, fileTitleKey);
     const std::optional<VisibleForm> form = knownForm(entries.value(visibleKey));
-    if (entries.size() == 3 && form && !record.path_.isNull() && !title.isNull() &&
-        title == lastPathComponent(record.path_)) {
-        record.form_ = *form;
-        return record;
+    if (entries.size() == 3 && form && !path.isNull() && !title.isNull() &&
+        title == lastPathComponent(path)) {
+        return forPath(path, *form);
     }
-    auto* odd = new Odd;
-    record.odd_ = QExplicitlySharedDataPointer<const Odd>(odd);
-    odd->value = stored.isValid() ? stored : QVariant::fromValue(nullptr);
-    odd->title = title;
-    return record;
+    auto* entry = new Entry;
+    entry->path = path;
+    entry->odd = std::make_unique<const Odd>(
+        Odd{stored.isValid() ? stored : QVariant::fromValue(nullptr), title});
+    return ItemRecord(entry);
 }
 
 QVariant ItemRecord::toVariant() const {
-    if (odd_)
-        return odd_->value;
-    if (!isOrdinary())
+    if (!entry_) {
         return QVariantMap();
-    return QVariantMap{
-        {filePathKey, path_}, {fileTitleKey, fileTitle()}, {visibleKey, flagValue(form_)}};
+    }
+    if (entry_->odd) {
+        return entry_->odd->value;
+    }
+    return QVariantMap{{filePathKey, filePath()},
+                       {fileTitleKey, fileTitle()},
+                       {visibleKey, flagValue(entry_->form)}};
 }
 
 QString ItemRecord::filePath() const {
-    return path_;
+    return entry_ ? entry_->path : QString();
 }
 
 QString ItemRecord::fileTitle() const {
-    return odd_ ? odd_->title : fileTitleView().toString();
+    return isOrdinary() ? fileTitleView().toString() : entry_ ? entry_->odd->title : QString();
 }
 
 QStringView ItemRecord::fileTitleView() const {
-    return odd_ ? QStringView(odd_->title) : lastPathComponent(path_);
+    if (!entry_) {
+        return {};
+    }
+    return entry_->odd ? QStringView(entry_->odd->title) : lastPathComponent(entry_->path);
 }
 
 QVariant ItemRecord::visible() const {
-    if (odd_)
-        return odd_->value.toMap().value(visibleKey);
-    return isOrdinary() ? flagValue(form_) : QVariant();
+    if (!entry_) {
+        return {};
+    }
+    return entry_->odd ? entry_->odd->value.toMap().value(visibleKey) : flagValue(entry_->form);
 }
 
 void ItemRecord::setVisible(VisibleForm form) {
     if (isOrdinary()) {
-        form_ = form;
+        *this = forPath(entry_->path, form);
         return;
     }
     const QVariant value = toVariant();
-    if (value.typeId() != QMetaType::QVariantMap)
-        return;
-    QVariantMap dictionary = value.toMap();
-    dictionary.insert(visibleKey, flagValue(form));
-    *this = fromVariant(dictionary);
+    if (value.typeId() == QMetaType::QVariantMap) {
+        QVariantMap dictionary = value.toMap();
+        dictionary.insert(visibleKey, flagValue(form));
+        *this = fromVariant(dictionary);
+    }
 }
 
 std::optional<VisibleForm> ItemRecord::ordinaryForm() const {
-    return isOrdinary() ? std::optional(form_) : std::nullopt;
+    return isOrdinary() ? std::optional(entry_->form) : std::nullopt;
 }
 
 bool ItemRecord::operator==(const ItemRecord& other) const {
-    if (odd_ && other.odd_)
-        return odd_ == other.odd_ || sameStoredValue(odd_->value, other.odd_->value);
-    if (odd_ || other.odd_ || path_.isNull() != other.path_.isNull())
-        return false;
-    return path_ == other.path_ && (form_ == other.form_ || path_.isNull());
+    if (entry_ == other.entry_) {
+        return true;
+    }
+    if (!isOrdinary() || !other.isOrdinary()) {
+        return sameStoredValue(toVariant(), other.toVariant());
+    }
+    return entry_->path == other.entry_->path && entry_->form == other.entry_->form;
 }

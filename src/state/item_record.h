@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include <QExplicitlySharedDataPointer>
@@ -52,18 +53,22 @@ public:
     bool operator==(const ItemRecord& other) const;
 
 private:
-    /// A stored value with anything beyond the path, its last component and a known flag. Large
-    /// lists hold ordinary records, which do without.
-    struct Odd : QSharedData {
+    /// A stored value with anything beyond the path, its last component and a known flag.
+    struct Odd {
         QVariant value;
         QString title;
     };
+    struct Entry : QSharedData {
+        QString path;
+        VisibleForm form = VisibleForm::StringOne;
+        std::unique_ptr<const Odd> odd;  // null in an ordinary record
+    };
 
-    bool isOrdinary() const { return !odd_ && !path_.isNull(); }
+    explicit ItemRecord(const Entry* entry) : entry_(entry) {}
+    bool isOrdinary() const { return entry_ && !entry_->odd; }
 
-    QString path_;
-    QExplicitlySharedDataPointer<const Odd> odd_;
-    VisibleForm form_ = VisibleForm::StringOne;
+    // One pointer, so that a long list is copied in a moment; null for an empty dictionary.
+    QExplicitlySharedDataPointer<const Entry> entry_;
 };
 
 Q_DECLARE_TYPEINFO(ItemRecord, Q_RELOCATABLE_TYPE);

@@ -4,7 +4,9 @@
 
 #include "controls/rd_custom_button.h"
 #include "controls/rd_ns_view.h"
+#include "controls/wrap_label.h"
 #include "platform/application.h"
+#include "platform/bundle.h"
 
 class ControlsTest final : public QObject {
     Q_OBJECT
@@ -39,6 +41,37 @@ private slots:
         }
         view.setGrain(0);
         QCOMPARE(view.grab().toImage().pixelColor(7, 7), QColor(185, 190, 197));
+        view.setBackgroundColor(Qt::red);
+        QCOMPARE(view.grab().toImage().pixelColor(7, 7), QColor(Qt::red));
+    }
+
+    void picturesAreSharpAtEveryScale() {
+        const QIcon icon = Bundle::imageNamed("search");
+        const QImage plain = icon.pixmap(QSize(20, 20), 1.0).toImage();
+        const QImage fine = icon.pixmap(QSize(20, 20), 2.0).toImage();
+        QCOMPARE(plain.size(), QSize(20, 20));
+        QCOMPARE(fine.size(), QSize(40, 40));
+        QVERIFY(fine.scaled(20, 20).scaled(40, 40) != fine);
+        QVERIFY(Bundle::imageNamed("no such picture").isNull());
+    }
+
+    void breaksALongWordWhereTheWidthEnds() {
+        WrapLabel label;
+        label.setText(QString(60, 'M'));
+        const int line = label.heightForWidth(5000);
+        const int height = label.heightForWidth(100);
+        QVERIFY(height >= 4 * line);
+        label.resize(100, height);
+        QCOMPARE(label.sizeHint().height(), label.heightForWidth(label.sizeHint().width()));
+        const QImage picture = label.grab().toImage();
+        const auto inkIn = [&picture](const QRect& part) {
+            const QImage cut = picture.copy(part);
+            QImage blank(cut.size(), cut.format());
+            blank.fill(picture.pixelColor(picture.rect().bottomRight()));
+            return cut != blank;
+        };
+        QVERIFY(inkIn(QRect(0, 0, 100, line)));
+        QVERIFY(inkIn(QRect(0, height - line, 100, line)));
     }
 
     void keepsOnAndStateApart() {
