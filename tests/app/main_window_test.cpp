@@ -298,7 +298,7 @@ private slots:
         Window w;
         QLineEdit field("abc", &w.main.window());
         field.show();
-        QApplication::setActiveWindow(&w.main.window());
+        w.main.window().activateWindow();
         field.setFocus();
         QTRY_VERIFY(field.hasFocus());
         field.selectAll();
