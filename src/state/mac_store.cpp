@@ -17,7 +17,7 @@ MacStore::MacStore(std::unique_ptr<QSettings> settings) : settings_(std::move(se
 
 QVariant MacStore::value(const QString& key) const {
     // Small integers come back as int, lists of texts as QStringList.
-    const QVariant value = storedForm(settings_->value(key));
+    QVariant value = storedForm(settings_->value(key));
     if (key == itemListKey && value.typeId() == QMetaType::QVariantList) {
         return QVariant::fromValue(ItemList::fromVariantList(value.toList()));
     }
