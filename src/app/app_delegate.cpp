@@ -49,9 +49,9 @@ void AppDelegate::connectActions() {
         {outlets_.checkforUpdatesMenuItem, &AppDelegate::checkForUpdates},
         {outlets_.velmoraHelpMenuItem, &AppDelegate::help},
     };
-    for (const auto& [action, command] : commands) {
-        connect(action, &QAction::triggered, this,
-                [this, action = action, command = command] { (this->*command)(action); });
+    for (const auto& entry : commands) {
+        connect(entry.first, &QAction::triggered, this,
+                [this, entry] { (this->*entry.second)(entry.first); });
     }
     // Qt has flipped the check mark before it reports the choice; give hide_info() the state that
     // the user saw.
