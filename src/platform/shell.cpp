@@ -205,8 +205,8 @@ QString Shell::defaultCompanionsFolder() {
                            QStringLiteral("/../libexec/velmora"));
 }
 
-void Shell::setPatience(std::chrono::milliseconds patience) {
-    ::patience = patience;
+void Shell::setPatience(std::chrono::milliseconds longest) {
+    patience = longest;
 }
 
 void Shell::setInterruption(int descriptor) {

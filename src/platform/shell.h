@@ -33,7 +33,7 @@ public:
     static std::optional<QString> output(const QString& commandLine);
 
     /// How long a line may take: 30 seconds, unless a test sets it.
-    static void setPatience(std::chrono::milliseconds patience);
+    static void setPatience(std::chrono::milliseconds longest);
     /// A descriptor that becomes readable when the program is asked to end; -1 for none. It is only
     /// looked at.
     static void setInterruption(int descriptor);
