@@ -155,6 +155,7 @@ class FileManagers(Story):
         desktop.pyatspi.Registry.getDesktop(0).set_cache_mask(cache.STATES)
         self.press(shown=False)
         if not manager.windows:
+            file("config/pcmanfm/default/pcmanfm.conf", "[ui]\nview_mode=list\n")(home)
             browser = self.open(manager)
             browser.until(5, item=True, dot=False)
             browser.quit()
