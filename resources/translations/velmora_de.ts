@@ -394,6 +394,21 @@ aus dem Dateimanager hierher ziehen</translation>
     </message>
 </context>
 <context>
+    <name>RDWindowController</name>
+    <message>
+        <source>Quit all the same, and lose the changes?</source>
+        <translation>Trotzdem beenden und die Änderungen verlieren?</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Bleiben</translation>
+    </message>
+</context>
+<context>
     <name>UserDefaults</name>
     <message>
         <source>The settings cannot be read, so the list is closed for now: %1</source>

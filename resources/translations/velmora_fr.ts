@@ -394,6 +394,21 @@ depuis votre gestionnaire de fichiers</translation>
     </message>
 </context>
 <context>
+    <name>RDWindowController</name>
+    <message>
+        <source>Quit all the same, and lose the changes?</source>
+        <translation>Quitter quand même et perdre les modifications ?</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>Rester</translation>
+    </message>
+</context>
+<context>
     <name>UserDefaults</name>
     <message>
         <source>The settings cannot be read, so the list is closed for now: %1</source>

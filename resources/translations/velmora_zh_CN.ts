@@ -394,6 +394,21 @@
     </message>
 </context>
 <context>
+    <name>RDWindowController</name>
+    <message>
+        <source>Quit all the same, and lose the changes?</source>
+        <translation>仍要退出并丢失更改吗？</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Stay</source>
+        <translation>留下</translation>
+    </message>
+</context>
+<context>
     <name>UserDefaults</name>
     <message>
         <source>The settings cannot be read, so the list is closed for now: %1</source>

@@ -148,6 +148,10 @@ void MainWindow::connectControls() {
     onClick(ui.requirePassword, [view, &ui] { view->require_password(ui.requirePassword); });
     onClick(ui.addButton, [view, &ui] { view->addfileList(ui.addButton); });
     onClick(ui.settingButton, [view] { view->settingButtonTouch(); });
+    QObject::connect(&windowController_, &RDWindowController::stayed, ui.fileListView, [&ui] {
+        ui.fileListView->takeMarks(
+            UserDefaults::standardUserDefaults().itemList().value_or(ItemList()));
+    });
     if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
         QObject::connect(application, &Application::exceptionReported, ui.fileListView,
                          &DragDropView::showWhatIsThere);

@@ -2,6 +2,8 @@
 
 #include <QEvent>
 #include <QMainWindow>
+#include <QMessageBox>
+#include <QPushButton>
 
 #include "hiding/hiding.h"
 #include "platform/application.h"
@@ -30,7 +32,25 @@ void RDWindowController::closeApplication() {
         hiding_.hideAtQuit(list);
         defaults.setItemList(list);
     }
-    Application::terminate();
+    if (defaults.synchronize() || askWhetherToLoseChanges()) {
+        Application::terminate();
+    } else {
+        closing_ = false;
+        emit stayed();
+    }
+}
+
+bool RDWindowController::askWhetherToLoseChanges() {
+    QMessageBox alert(&window_);
+    alert.setIcon(QMessageBox::Warning);
+    alert.setText(UserDefaults::standardUserDefaults().problem());
+    alert.setInformativeText(tr("Quit all the same, and lose the changes?"));
+    const QPushButton* quit = alert.addButton(tr("Quit"), QMessageBox::DestructiveRole);
+    QPushButton* stay = alert.addButton(tr("Stay"), QMessageBox::RejectRole);
+    alert.setDefaultButton(stay);
+    alert.setEscapeButton(stay);
+    alert.exec();
+    return alert.clickedButton() == quit;
 }
 
 bool RDWindowController::windowShouldClose() {

@@ -16,16 +16,22 @@ public:
     /// Titles the window and binds its close button to closeApplication().
     void windowDidLoad();
     /// The quit path: with the quit preference on, every stored record is marked hidden and its
-    /// item hidden, whether or not the list is unlocked; then the application terminates. Runs
-    /// once, however often it is asked.
+    /// item hidden, whether or not the list is unlocked; then the application terminates. When the
+    /// changes cannot be saved, the user is asked, and may stay. Runs once at a time.
     void closeApplication();
     /// Ends the modal loop that is running, if any; the window may close.
     bool windowShouldClose();
+
+signals:
+    /// The user has stayed; a quit pass may have marked the stored records hidden.
+    void stayed();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    bool askWhetherToLoseChanges();
+
     QMainWindow& window_;
     Hiding& hiding_;
     bool closing_ = false;

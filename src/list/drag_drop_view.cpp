@@ -85,6 +85,23 @@ void DragDropView::removeCurrentRecord() {
     showWhatIsThere();
 }
 
+void DragDropView::takeMarks(const ItemList& lists) {
+    QHash<QString, VisibleForm> marks;
+    lists.forEach([&marks](const ItemRecord& record) {
+        marks.insert(record.filePath(),
+                     isShown(record) ? VisibleForm::StringOne : VisibleForm::StringZero);
+    });
+    for (qsizetype index = 0; index < count(); ++index) {
+        ItemRecord record = fileLists_->at(index);
+        const auto mark = marks.constFind(record.filePath());
+        if (mark != marks.cend() && isShown(record) != (*mark == VisibleForm::StringOne)) {
+            record.setVisible(*mark);
+            fileLists_->replace(index, record);
+        }
+    }
+    reloadData();
+}
+
 void DragDropView::showWhatIsThere() {
     if (selectRowIndex_ >= count()) {
         setSelectRowIndex(static_cast<int>(count()) - 1);

@@ -72,6 +72,9 @@ public:
     /// The remove command: removes the current record, reloads (which reports) and stores. Nothing
     /// without a current record.
     void removeCurrentRecord();
+    /// Gives the records of the working copy, in its own order, the flags that those of their paths
+    /// have in `lists`; reloads, which reports.
+    void takeMarks(const ItemList& lists);
     /// Shows what is in memory after a handler that failed has shortened the list. Reports nothing.
     void showWhatIsThere();
     /// Stores the working copy as it stands, sorted order included; nothing while it was never

@@ -81,6 +81,12 @@ class MainWindowTest final : public QObject {
 private slots:
     void initTestCase() { Bundle::loadTranslations(); }
 
+    // A test that ended the program's event loop must not end the next one's.
+    void init() {
+        QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+        QCoreApplication::exec();
+    }
+
     void startsEmpty() {
         Sandbox sandbox;
         Window w;
@@ -317,6 +323,39 @@ private slots:
                  QStringList({"chflags|hidden|a", "chflags|hidden|b|c", "chflags|hidden|d"}));
         QCOMPARE(sandbox.stored(), QString("a:\"0\" b c:\"0\" d:\"0\""));
         QCOMPARE(sandbox.told(), QStringList({"a", "b c", "d"}));
+    }
+
+    void asksBeforeChangesAreLost() {
+        Sandbox sandbox;
+        sandbox.storeList(sandbox.makeFiles({"b", "a"}));
+        QVERIFY(sandbox.defaults().synchronize());
+        Window w;
+        w.press(w.list()->topViw()->leftButton());  // sorted in memory alone: a, b
+        setPreference(Preference::MakeInvisibleOnQuit, true);
+        QVERIFY(sandbox.defaults().synchronize());
+        const QString folder = QFileInfo(UserDefaults::standardFile()).path();
+        QVERIFY(QFile::rename(folder, folder + "-away"));
+        QFile inTheWay(folder);
+        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
+        const auto quit = [&w](const QString& answer) {
+            bool asked = false;
+            QTimer::singleShot(0, [&] {
+                auto* alert = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                asked = alert != nullptr && alert->text().contains("could not be saved");
+                for (auto* button : alert->buttons()) {
+                    if (button->text() == answer) {
+                        button->click();
+                    }
+                }
+            });
+            w.main.window().close();
+            return asked;
+        };
+        QVERIFY(quit("Stay"));
+        // What the pass has done is seen in the list, in its own order.
+        QCOMPARE(Sandbox::describe(*w.list()->fileLists()), QString("a:\"0\" b:\"0\""));
+        QVERIFY(!w.ui.switchButton->on() && w.ui.hideMenuItem->text() == "Show");
+        QVERIFY(quit("Quit"));
     }
 
     void saysWhatBecameOfTheItem() {
