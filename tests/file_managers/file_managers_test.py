@@ -116,9 +116,16 @@ class FileManagers(Story):
         home = self.home
         if manager.program == "pcmanfm":  # GTK 2
             home.environment["GTK_MODULES"] = "gail:atk-bridge"
-        browser = Browser(home, manager.program, str(home.folder / "velmora-sample"))
-        self.addCleanup(lambda: browser.process.poll() is None and browser.process.kill())
-        wait(lambda: OTHER in browser.listed(), "the folder is listed", 30)
+        for last in False, True:  # Nautilus 43 was seen to load its first folder without end
+            browser = Browser(home, manager.program, str(home.folder / "velmora-sample"))
+            self.addCleanup(browser.process.kill)
+            try:
+                wait(lambda: OTHER in browser.listed(), "the folder is listed", 15)
+                break
+            except AssertionError:
+                if last:
+                    raise
+                browser.stop()
         browser.place(0, 30, 640, 500)
         return browser
 
@@ -170,7 +177,7 @@ class FileManagers(Story):
         self.assertEqual(self.read_setting(), "YES")
 
         start = self.press(shown=True)  # turns the show-all setting off as well
-        self.assertEqual(self.read_setting(), "NO")
+        self.eventually(self.read_setting, "NO")
         if not manager.windows:
             browser.until(5, dot=True)
             browser.quit()
