@@ -30,7 +30,7 @@ FILES = [
      "ShowHidden=true\n\n[Window]\nState=@ByteArray(\\0\\xff)\nTitle[de]=Gr\xfc\xdfe; \n",
      "# kept\n\n[Desktop]\nShowHidden=true\nFont=\"Sans Serif,10\"\n\n[FolderView]\nMode=icon\n"
      "ShowHidden=false\n\n[Window]\nState=@ByteArray(\\0\\xff)\nTitle[de]=Gr\xfc\xdfe; \n"),
-    (".config/pcmanfm-qt/lxqt/settings.conf", "[FolderView]\r\nShowHidden = true \r\n[A]\nB=1",
+    (".config/pcmanfm-qt/lxqt/settings.conf", "[FolderView]\r\nShowHidden = true \r\n\n[A]\nB=1",
      "[FolderView]\nShowHidden=false\n\n[A]\nB=1\n"),
     (".config/pcmanfm/LXDE/pcmanfm.conf", "[ui]\nshow_hidden=1\nsort=name;ascending;\n",
      "[ui]\nshow_hidden=0\nsort=name;ascending;\n"),

@@ -46,11 +46,13 @@ class RefreshTest(unittest.TestCase):
         return done.stdout.decode()
 
     def alive(self):
-        """The processes of this test that still run, with their folders."""
+        """The processes in the background that still run, with their folders. What one of them
+        starts for each telling has not its own session."""
         found = {}
         for process in pathlib.Path("/proc").glob("[0-9]*"):
             try:
                 if os.readlink(process / "exe") == REFRESH and \
+                        os.getsid(int(process.name)) == int(process.name) and \
                         f"HOME={self.home}".encode() in (process / "environ").read_bytes():
                     found[int(process.name)] = os.readlink(process / "cwd")
             except OSError:
@@ -97,7 +99,7 @@ class RefreshTest(unittest.TestCase):
         others = self.alive().keys() - {old}
         told = first.stat().st_ctime_ns
         self.refresh(second)
-        self.assertNotIn(old, self.alive())
+        self.until(lambda: old not in self.alive(), 5)
         self.assertEqual(len(self.alive().keys() - others), 1)
         self.assertTrue(others <= self.alive().keys())  # another session's is left alone
         self.until(lambda: first.stat().st_ctime_ns > told, 5)
