@@ -11,7 +11,7 @@ from place import Place, end
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BIN = ROOT / "build" / "release" / "bin"
-KINDS = ("start", "beside", "passes", "press", "list", "memory")
+KINDS = ("start", "beside", "memory", "press", "list", "passes")
 PREFERENCES = {"Makevisibleallthelisteditemsatlaunch": True,
                "Makeinvisibleallthelisteditemsonquit": True}
 
@@ -99,7 +99,7 @@ class Bench:
             at[count] += self.work("drop", 3)
         few, figure, many = (medians(rounds)[0] for rounds in at.values())
         self.add("a drop of 10,000 paths onto 10,000", figure, None, figure * 5 * few / many,
-                 f"linear: of four times as many ≤ 5 times (is {many / few:.1f})")
+                 f"four times as many ≤ 5 times (is {many / few:.1f})")
 
     def memory(self):
         self.place.store([])

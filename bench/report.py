@@ -23,7 +23,7 @@ class Row:
         return self.work, self.figure, self.floor, self.ratio, self.goal, met
 
     def __str__(self):
-        return "{:51}{:>9}{:>9}{:>6}  {:20}{}".format(*self.cells())
+        return "{:51}{:>9}{:>9}{:>6}  {:40}{}".format(*self.cells())
 
 
 def markdown(rows):
