@@ -37,14 +37,14 @@ def picture(rows):
     goal = LEFT + BAR
     parts = [f'<svg xmlns="http://www.w3.org/2000/svg" width="{goal + 180}" height="{height}" '
              'font-family="sans-serif" font-size="13">',
-             '<rect width="100%" height="100%" fill="white"/>']
+             f'<rect width="{goal + 180}" height="{height}" fill="white"/>']
     for line, row in enumerate(rows):
         top = STEP * (line + 0.5)
         width, fill = BAR * min(row.share, 1.5), "#3b6fb5" if row.share <= 1 else "#c0392b"
         parts.append(f'<text x="{LEFT - 10}" y="{top + 16}" text-anchor="end">{row.work}</text>'
                      f'<rect x="{LEFT}" y="{top + 4}" width="{width:.0f}" height="{STEP - 8}" '
                      f'fill="{fill}"/>'
-                     f'<text x="{LEFT + width + 6:.0f}" y="{top + 16}">{row.share:.0%}</text>')
+                     f'<text x="{LEFT + 8}" y="{top + 16}" fill="white">{row.share:.0%}</text>')
     parts.append(f'<path d="M{goal} 6 V{height - STEP}" stroke="#555" stroke-dasharray="4 3"/>'
                  f'<text x="{goal}" y="{height - 8}" text-anchor="middle">goal</text></svg>')
     return "\n".join(parts) + "\n"
