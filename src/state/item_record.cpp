@@ -101,10 +101,6 @@ QVariant ItemRecord::visible() const {
 }
 
 void ItemRecord::setVisible(VisibleForm form) {
-    if (isOrdinary()) {
-        *this = forPath(entry_->path, form);
-        return;
-    }
     const QVariant value = toVariant();
     if (value.typeId() == QMetaType::QVariantMap) {
         QVariantMap dictionary = value.toMap();

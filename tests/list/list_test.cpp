@@ -131,6 +131,18 @@ private slots:
         QCOMPARE(f.table()->cellForRow(1)->statuesTextField, QString("Hidden"));
     }
 
+    void givesTheStatusTheRoomThatALargeFontNeeds() {
+        QFont large;
+        large.setPixelSize(60);
+        const QFontMetrics metrics(large);
+        ListCell cell;
+        const ListCell::Layout parts = cell.layout(QRect(0, 0, 800, 90), metrics);
+        QVERIFY(parts.status.left() + metrics.horizontalAdvance("Visible") <
+                parts.checkButton.left());
+        cell.setSelected(false);
+        QCOMPARE(cell.layout(QRect(0, 0, 800, 90), metrics).status, parts.status);
+    }
+
     void paintsTheRowColours() {
         Fixture f({"a", "b", "c"});
         const auto colour = [&](int row) {

@@ -21,8 +21,14 @@ private slots:
                                  "..", "folder/", "file/", "folder/inner"}) {
             paths << folder_.filePath(name);
         }
-        // Before the folder is read, and after it was.
-        for (int round = 0; round < 5; ++round) {
+        // Its folder can be read, and it is longer than the system takes.
+        QString longest = folder_.path() + '/';
+        while (longest.size() < 4089) {
+            longest += "./";
+        }
+        paths << longest + "Umlaut ü";
+        // Before the folders are read, and after they were.
+        for (int round = 0; round < 20; ++round) {
             for (const QString& path : paths) {
                 QVERIFY2(finder_.exists(path) == fileExists(path), qPrintable(path));
             }

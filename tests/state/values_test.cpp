@@ -216,7 +216,7 @@ void ValuesTest::listsShareUntilOneIsChanged() {
     QVariantList walked;
     list.forEach([&](const ItemRecord& record) {
         walked.append(record.toVariant());
-        list = ItemList();
+        list.replace(list.size() - 1, ItemRecord());
     });
     QCOMPARE(walked, left);
     QVERIFY(held.toVariantList() == before);
