@@ -19,8 +19,9 @@ QVariant flagValue(VisibleForm form) {
 std::optional<VisibleForm> knownForm(const QVariant& value) {
     for (const VisibleForm form :
          {VisibleForm::StringOne, VisibleForm::StringZero, VisibleForm::NumberOne}) {
-        if (sameStoredValue(value, flagValue(form)))
+        if (sameStoredValue(value, flagValue(form))) {
             return form;
+        }
     }
     return std::nullopt;
 }
@@ -34,8 +35,9 @@ QString textEntry(const QVariantMap& dictionary, QLatin1StringView key) {
 }  // namespace
 
 QStringView lastPathComponent(QStringView path) {
-    while (path.size() > 1 && path.back() == u'/')
+    while (path.size() > 1 && path.back() == u'/') {
         path.chop(1);
+    }
     return path.size() > 1 ? path.sliced(path.lastIndexOf(u'/') + 1) : path;
 }
 
