@@ -45,13 +45,9 @@ private slots:
                             << QVariant(QVariantList()) << QVariantMap()
                             << QVariantMap{{"", QVariantList{false, "1", null}}};
         const QVariantList records{
-            QVariantMap{{"filePath", "/a/b"}, {"fileTitle", "b"}, {"visible", 1}},
             QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "c"}, {"visible", "0"}},
             QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "c"}, {"visible", true}},
-            QVariantMap{{"fileTitle", "x"}, {"more", QVariantMap{{"a", QVariantList{2}}}}},
-            "text",
-            null,
-            QVariantList{QVariantList{}}};
+            QVariantMap{{"fileTitle", "x"}, {"more", QVariantMap{{"a", QVariantList{2}}}}}, "text"};
         {
             UserDefaults defaults(file_);
             defaults.setItemList(std::nullopt);
@@ -120,9 +116,6 @@ private slots:
         syncs = 0;
         {
             UserDefaults defaults(file_);
-            ItemList list = *defaults.itemList();
-            list.removeIf([](const ItemRecord&) { return false; });
-            defaults.setItemList(list);
             defaults.setItemList(listOf(1000, "item"));
             defaults.setObject(1, "one");
         }
