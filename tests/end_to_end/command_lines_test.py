@@ -1,15 +1,15 @@
-"""What start, quit and the switch do through the shell: to which items, and in which order."""
+"""What quit and the switch do through the shell: to which items, and in which order."""
 import os
 import subprocess
 
 import desktop
 from desktop import Story, key
 
-AT_LAUNCH, AT_QUIT = "Makevisibleallthelisteditemsatlaunch", "Makeinvisibleallthelisteditemsonquit"
+AT_QUIT = "Makeinvisibleallthelisteditemsonquit"
 READ = "defaults|read|com.apple.finder|AppleShowAllFiles"
 
 
-class QuitAndLaunch(Story):
+class Quit(Story):
     def setUp(self):
         super().setUp()
         self.paths = self.home.make("a", "b c", "d")
@@ -42,21 +42,6 @@ class QuitAndLaunch(Story):
         self.assertEqual(velmora.ended(), 0, velmora.log())
         self.assertEqual(velmora.stored(), [("a", "0"), ("b c", "1"), ("d", "1")])
         self.assertEqual(self.hidden(), [True, False, False])
-
-    def test_starting_shows_all_from_the_last_to_the_first_also_while_locked(self):
-        for locked in False, True:
-            lock = {"password": "p", "requirePassword": "1"} if locked else {}
-            self.home.seed(*self.paths, visible="0", **{AT_LAUNCH: True}, **lock)
-            (self.home.files / ".hidden").write_text("a\nb c\nd\n")
-            velmora = self.start(self.program)
-            self.eventually(velmora.stored, [("a", "1"), ("b c", "1"), ("d", "1")])
-            self.assertEqual(self.hidden(), [False, False, False])
-            self.assertEqual(velmora.rows(), [] if locked else [
-                "a, Visible", "b c, Visible", "d, Visible"])
-            velmora.stop()
-            self.assertEqual(self.home.records(),
-                             [f"chflags|nohidden|{path}" for path in reversed(self.paths)])
-            self.home.recorded.unlink()
 
 
 class ShowAllReset(Story):

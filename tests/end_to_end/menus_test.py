@@ -38,6 +38,7 @@ class Menus(Story):
         for left in ["b, Visible"], []:
             velmora.menu("File", "Remove")
             self.eventually(velmora.rows, left)
+        self.assertEqual(velmora.pane()["Where:"], str(self.home.files / "b"))
         # The pane keeps the removed item; no command and no key reaches beyond the list.
         self.assertEqual(self.offered(velmora), {**visible, **dict.fromkeys(self.ITEM, False)})
         key("ctrl+Return", "ctrl+r", "Delete", "ctrl+h", "Down", "End")

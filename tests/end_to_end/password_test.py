@@ -117,14 +117,6 @@ class Password(Story):
         self.quit(velmora)
         self.assertEqual(velmora.store()["password"], " ")
 
-    def test_the_launch_dialog_unlocks_after_a_failure_also_by_cancel(self):
-        velmora = self.seeded("1")
-        self.fail(velmora, "wrong")
-        self.answer(velmora, "Pass 1", "Escape")
-        self.expect(velmora, True, "1", True, ROWS)
-        self.expect_add(velmora, True)
-        self.eventually(velmora.stored, [("a", "1"), ("b", "1")])
-
     def test_started_unprotected(self):
         velmora = self.seeded("0")
         self.expect(velmora, False, "0", True, ROWS)

@@ -2,7 +2,6 @@
 import contextlib
 import json
 import os
-import random
 import signal
 import stat
 import time
@@ -20,22 +19,6 @@ class Trouble(Story):
         velmora.press("Visible", "check box")
         wait(lambda: velmora.current() != before, f"{row} is switched")
         return velmora.current()[0].rpartition(", ")[2]
-
-    def test_a_corrupt_store_gives_way_to_the_last_good_copy(self):
-        self.home.seed(*self.home.make("a", "b"))
-        velmora = self.start()
-        self.press(velmora, "b")
-        self.quit(velmora)
-        file = self.home.store
-        torn = file.read_bytes()[:-40]
-        file.write_bytes(torn)
-        velmora = self.start()
-        self.assertEqual(velmora.rows(), ["a, Visible", "b, Hidden"])
-        velmora.says("and the last good copy is used")
-        self.quit(velmora)
-        self.assertEqual(velmora.stored(), [("a", "1"), ("b", "0")])
-        aside = [other for other in file.parent.iterdir() if other.read_bytes() == torn]
-        self.assertEqual(len(aside), 1, list(file.parent.iterdir()))
 
     def test_odd_content_is_carried_along(self):
         a, b = self.home.make("a", "b")
@@ -60,14 +43,6 @@ class Trouble(Story):
         store = velmora.store()
         self.assertEqual((store["its own"], store["password"]), ({"k": 1}, 12))
         self.assertEqual(store["missingItems"], lost)
-
-    def test_a_list_of_the_wrong_kind_is_kept_aside(self):
-        self.home.seed(fileListView_List="text")
-        velmora = self.start()
-        self.assertEqual(velmora.rows(), [])
-        self.quit(velmora)
-        kept = [file.read_text() for file in self.home.store.parent.glob("*.json*")]
-        self.assertTrue(any('"text"' in content for content in kept), kept)
 
     def test_names(self):
         longest = "n" * 255
@@ -167,16 +142,6 @@ class Trouble(Story):
         self.assertEqual(velmora.stop(), 0)
         self.assertLess(time.monotonic() - began, 10)
         self.assertEqual(velmora.stored(), [("a", "1"), ("b", "1")])
-
-    def test_killed_at_any_moment_the_store_is_whole(self):
-        self.home.seed(*self.home.make("a", "b"))
-        for _ in range(5):
-            velmora = desktop.Velmora(self.home)
-            key(*["ctrl+h"] * random.randint(1, 6))
-            time.sleep(random.random() / 20)  # any moment will do
-            velmora.process.kill()
-            velmora.process.wait()
-            self.assertEqual([title for title, _ in velmora.stored()], ["a", "b"])
 
 
 if __name__ == "__main__":

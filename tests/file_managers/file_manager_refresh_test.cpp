@@ -14,13 +14,11 @@ private slots:
     void init() {
         folder_ = std::make_unique<QTemporaryDir>();
         QVERIFY(folder_->isValid());
-        QFile script(program());
-        QVERIFY(script.open(QIODevice::WriteOnly));
-        script.write(
-            "#!/bin/sh\nexec 2>/dev/null\ncd \"${0%/*}\" || exit\n"
-            "items=$(tr '\\0\\n' '|/')\necho \"$#$items\" >>calls\n"
-            "[ -e answer ] && cat answer\n[ -e slow ] && exec sleep 600\nexit 0\n");
-        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        write("refresh",
+              "#!/bin/sh\nexec 2>/dev/null\ncd \"${0%/*}\" || exit\n"
+              "items=$(tr '\\0\\n' '|/')\necho \"$#$items\" >>calls\n"
+              "[ -e answer ] && cat answer\n[ -e slow ] && exec sleep 600\nexit 0\n");
+        QFile::setPermissions(program(), QFile::ReadOwner | QFile::ExeOwner);
     }
 
     void tellsWhatChangedInOneTurnTogether() {
@@ -29,9 +27,11 @@ private slots:
         refresh.itemChanged(QString::fromUtf8("/tmp/é\n"));
         QCOMPARE(calls(), QStringList());  // nothing waits for the process
         QTRY_COMPARE(calls(), QStringList({QString::fromUtf8("0/tmp/a b|/tmp/é/|")}));
-        refresh.itemChanged("/tmp/c");
+        for (int number = 0; number < 100000; ++number) {
+            refresh.itemChanged(QString("/tmp/%1").arg(number));
+        }
         QTRY_COMPARE(calls().size(), 2);
-        QCOMPARE(calls().last(), "0/tmp/c|");
+        QCOMPARE(calls().last().count('|'), 100000);
     }
 
     void namesManagersThatCannotBeReached() {
@@ -71,15 +71,6 @@ private slots:
         QVERIFY(timer.elapsed() < 5000);
         QTRY_COMPARE(calls().size(), 2);
         QCOMPARE(calls().last(), "0/tmp/b|/tmp/a|");
-    }
-
-    void tellsAnyNumber() {
-        FileManagerRefresh refresh(program());
-        for (int number = 0; number < 100000; ++number) {
-            refresh.itemChanged(QString("/tmp/%1").arg(number));
-        }
-        QTRY_COMPARE(calls().size(), 1);
-        QCOMPARE(calls().first().count('|'), 100000);
     }
 
 private:

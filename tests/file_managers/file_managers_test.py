@@ -6,7 +6,7 @@ Usage: file_managers_test.py PROGRAM FileManagers.test_NAME
 With VELMORA_TABLE=FILE in the environment, what was seen is written into the table of that
 document, in the row of this manager and release. Ends with status 77 where the manager is missing.
 """
-import contextlib, os, pathlib, platform, re, shutil, subprocess, sys, time
+import contextlib, os, pathlib, platform, re, shutil, subprocess, sys, time, typing
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "end_to_end"))
 import desktop
@@ -39,14 +39,13 @@ def thunar(home):
                         "-s", value], check=True)
 
 
-class Manager:
+class Manager(typing.NamedTuple):
     """What is to be seen with one file manager."""
-
-    def __init__(self, name, show_all, reveal, windows=True):
-        self.name, self.show_all = name, show_all
-        self.program = name.lower()
-        self.reveal = reveal    # "selected", or "listed" where it does not tell what is selected
-        self.windows = windows  # whether it knows hidden items and its windows can be reached
+    name: str
+    show_all: typing.Callable
+    reveal: str            # "selected", or "listed" where it does not tell what is selected
+    windows: bool = True   # whether it knows hidden items and its windows can be reached
+    program = property(lambda self: self.name.lower())
 
 
 MANAGERS = {manager.program.replace("-", "_"): manager for manager in (
@@ -142,6 +141,11 @@ class FileManagers(Story):
         self.eventually(lambda: self.velmora.checked("Visible"), shown)
         return start
 
+    def note(self, manager):
+        cells = self.see(manager)
+        write_row(manager, cells)
+        print(manager.name, *cells, sep=" | ")
+
     def see(self, manager):
         """The cells of the row: opening, hide, show, reset, reveal."""
         home = self.home
@@ -205,18 +209,6 @@ class FileManagers(Story):
         return manager.reveal
 
 
-def test(manager):
-    def run(self):
-        cells = self.see(manager)
-        write_row(manager, cells)
-        print(manager.name, *cells, sep=" | ")
-    return run
-
-
-for name, manager in MANAGERS.items():
-    setattr(FileManagers, f"test_{name}", test(manager))
-
-
 def write_row(manager, cells):
     """Puts the row into the table in place of the one of the same manager and release."""
     if "VELMORA_TABLE" not in os.environ:
@@ -233,6 +225,10 @@ def write_row(manager, cells):
     rows.append(f"| {manager.name} | {system} | " + " | ".join([version, *cells]) + " |")
     text = "\n".join([head, line, *sorted(rows, key=str.lower)]) + "\n"
     document.write_text(before + BEGIN + text + END + rest.split(END)[1])
+
+
+for name, manager in MANAGERS.items():
+    setattr(FileManagers, f"test_{name}", lambda self, manager=manager: self.note(manager))
 
 
 if __name__ == "__main__":

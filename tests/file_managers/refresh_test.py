@@ -1,19 +1,8 @@
 #!/usr/bin/python3
 """The program that tells the file managers: what it answers, and what goes on after that.
+refresh_test.py REFRESH [unittest arguments]"""
 
-Usage: refresh_test.py REFRESH [unittest arguments]
-"""
-
-import os
-import pathlib
-import shutil
-import signal
-import socket
-import subprocess
-import sys
-import tempfile
-import time
-import unittest
+import os, pathlib, shutil, signal, socket, subprocess, sys, tempfile, time, unittest
 
 from gi.repository import Gio, GLib
 
@@ -29,9 +18,8 @@ class RefreshTest(unittest.TestCase):
         self.session = self.new_session()
 
     def new_session(self):
-        runtime = pathlib.Path(tempfile.mkdtemp(dir=self.home))
         return {"PATH": os.environ["PATH"], "HOME": str(self.home),
-                "XDG_RUNTIME_DIR": str(runtime)}
+                "XDG_RUNTIME_DIR": tempfile.mkdtemp(dir=self.home)}
 
     def item(self, name):
         path = self.home / name
@@ -65,21 +53,6 @@ class RefreshTest(unittest.TestCase):
             self.assertLess(time.monotonic(), end, "not in time")
             time.sleep(0.01)
 
-    def tellings(self, *items):
-        """Waits until the background has ended; for each item, when it was told, since now."""
-        start = time.monotonic()
-        last = [item.lstat().st_ctime_ns for item in items]
-        told = [[] for _ in items]
-
-        def ended():
-            for number, item in enumerate(items):
-                if item.lstat().st_ctime_ns != last[number]:
-                    last[number] = item.lstat().st_ctime_ns
-                    told[number].append(round((time.monotonic() - start) / REPEAT))
-            return not self.alive()
-        self.until(ended, 30)
-        return told
-
     def test_answers_and_goes_on_alone(self):
         item, link = self.item("name\n with 100% ü"), self.home / "link"
         link.symlink_to("nowhere")
@@ -88,14 +61,12 @@ class RefreshTest(unittest.TestCase):
         self.assertTrue(all(path.lstat().st_ctime_ns > told
                             for path, told in zip((item, link), before)))
         self.assertEqual(list(self.alive().values()), ["/"])
-        self.assertEqual(self.tellings(item, link), [[1, 2], [1, 2]])
 
     def test_a_new_one_takes_over(self):
-        first, second, other = map(self.item, ("first", "second", "other"))
+        first, second, other = items = [self.item(name) for name in ("first", "second", "other")]
         self.refresh(first)
         old, = self.alive()
-        elsewhere = self.new_session()
-        self.refresh(other, session=elsewhere)
+        self.refresh(other, session=self.new_session())
         others = self.alive().keys() - {old}
         told = first.stat().st_ctime_ns
         self.refresh(second)
@@ -103,7 +74,18 @@ class RefreshTest(unittest.TestCase):
         self.assertEqual(len(self.alive().keys() - others), 1)
         self.assertTrue(others <= self.alive().keys())  # another session's is left alone
         self.until(lambda: first.stat().st_ctime_ns > told, 5)
-        self.assertEqual(self.tellings(first, second), [[1, 2], [1, 2]])
+        start, last, tellings = time.monotonic(), {}, {}
+
+        def ended():
+            for item in items:
+                now = item.stat().st_ctime_ns
+                if last.setdefault(item, now) != now:
+                    last[item] = now
+                    times = tellings.setdefault(item.name, [])
+                    times.append(round((time.monotonic() - start) / REPEAT))
+            return not self.alive()
+        self.until(ended, 30)
+        self.assertEqual(tellings, dict.fromkeys(("first", "second", "other"), [1, 2]))
 
     def test_a_silent_bus(self):
         item, address = self.item("item"), str(self.home / "silent")

@@ -43,7 +43,6 @@ private:
         QString shown() { return Sandbox::describe(view.fileLists().value_or(ItemList())); }
 
         Sandbox sandbox;
-        RecordingWorkspace workspace;
         RecordingDelegate delegate;
         QStringList paths;
         DragDropView view;
@@ -59,10 +58,6 @@ private slots:
         f.click(1);  // nothing changes, nothing is reported
         QCOMPARE(f.delegate.take(), QStringList());
         QTest::keyClick(f.table(), Qt::Key_End);
-        QTest::keyClick(f.table(), Qt::Key_Up);
-        QTest::keyClick(f.table(), 'a');
-        QCOMPARE(f.delegate.take(), QStringList({"c", "b", "a"}));
-        f.click(2);
         f.click(6);  // below the last row
         QCOMPARE(f.delegate.take(), QStringList({"c", "a"}));
         QCOMPARE(f.view.selectRowIndex(), 0);
@@ -76,38 +71,26 @@ private slots:
         QCOMPARE(f.sandbox.stored(), QString("a:\"1\" b:\"1\" c:\"1\" a:1"));
     }
 
-    void reportsRemovalsOnlyWhereTheCurrentRowIsConcerned_data() {
-        QTest::addColumn<int>("current");
-        QTest::addColumn<int>("removed");
-        QTest::addColumn<QStringList>("reports");
-        QTest::addColumn<int>("index");
-        QTest::newRow("current with rows behind") << 1 << 1 << QStringList{"c"} << 1;
-        QTest::newRow("current and last") << 2 << 2 << QStringList() << 1;
-        QTest::newRow("before the last, which is current") << 2 << 1 << QStringList{"c"} << 1;
-        QTest::newRow("before the current one") << 1 << 0 << QStringList() << 1;
-        QTest::newRow("behind the current one") << 0 << 2 << QStringList() << 0;
-    }
     void reportsRemovalsOnlyWhereTheCurrentRowIsConcerned() {
-        QFETCH(int, current);
-        QFETCH(int, removed);
-        Fixture f({"a", "b", "c"});
-        f.view.selectTableViewCellForRowIndex(current);
-        f.delegate.take();
-        f.hover(removed, 380);
-        f.sandbox.log();
-        QTest::mouseClick(f.table()->deletedButton(), Qt::LeftButton);
-        QTEST(f.delegate.take(), "reports");
-        QTEST(f.view.selectRowIndex(), "index");
-        QCOMPARE(f.sandbox.log(), QStringList{"delated:" + f.paths.at(removed)});
-        QCOMPARE(f.sandbox.defaults().itemList()->size(), 2);
-    }
-
-    void removingTheOnlyItemReportsNothingLeft() {
-        Fixture f({"a"});
-        f.hover(0, 380);
-        QTest::mouseClick(f.table()->deletedButton(), Qt::LeftButton);
-        QCOMPARE(f.delegate.take(), QStringList{"nil"});
-        QCOMPARE(f.view.selectRowIndex(), -1);
+        Fixture f({"a", "b", "c", "d", "e", "f"});
+        const auto remove = [&f](int current, int removed) {
+            f.view.selectTableViewCellForRowIndex(current);
+            f.delegate.take();
+            f.hover(removed, 380);
+            f.sandbox.log();
+            const QString path = f.view.fileLists()->at(removed).filePath();
+            QTest::mouseClick(f.table()->deletedButton(), Qt::LeftButton);
+            return f.sandbox.log() == QStringList{"delated:" + path}
+                       ? f.delegate.take().join(u' ') + QString::number(f.view.selectRowIndex())
+                       : "not logged";
+        };
+        QCOMPARE(remove(1, 1), QString("c1"));  // the current row, with others behind it
+        QCOMPARE(remove(4, 3), QString("f3"));  // before the last row, which is current
+        QCOMPARE(remove(2, 0), QString("2"));   // before the current row
+        QCOMPARE(remove(0, 2), QString("0"));   // behind it
+        QCOMPARE(remove(1, 1), QString("0"));   // the current row, which is the last
+        QCOMPARE(f.sandbox.stored(), QString("c:\"1\""));
+        QCOMPARE(remove(0, 0), QString("nil-1"));
         QCOMPARE(f.sandbox.stored(), QString());
     }
 
@@ -121,8 +104,6 @@ private slots:
         QVERIFY(f.table()->checkButton()->isVisible() && f.table()->deletedButton()->isVisible());
         QCOMPARE(f.table()->checkButton()->accessibleName(), QString("Reveal a"));
         QVERIFY(f.table()->checkButton()->y() < f.table()->deletedButton()->y());
-        QTest::mouseClick(f.table()->checkButton(), Qt::LeftButton);
-        QCOMPARE(f.workspace.revealed, QStringList{f.paths.at(0)});
         f.hover(1, 200);
         QVERIFY(!f.table()->checkButton()->isVisible() && f.table()->deletedButton()->isVisible());
         QEvent leave(QEvent::Leave);
@@ -141,24 +122,6 @@ private slots:
                 parts.checkButton.left());
         cell.setSelected(false);
         QCOMPARE(cell.layout(QRect(0, 0, 800, 90), metrics).status, parts.status);
-    }
-
-    void paintsTheRowColours() {
-        Fixture f({"a", "b", "c"});
-        const auto colour = [&](int row) {
-            const QImage picture = f.table()->viewport()->grab().toImage();
-            const QPoint at = f.inRow(row, 200) * picture.devicePixelRatio();
-            return picture.pixelColor(at);
-        };
-        QCOMPARE(colour(0), QColor(1, 92, 220));
-        QCOMPARE(colour(1), QColor(Qt::white));
-        setPreference(Preference::AlternatingRowColors, true);
-        f.view.changeCellData({});
-        QCOMPARE(colour(1), QColor(245, 245, 245));
-        QCOMPARE(colour(2), QColor(Qt::white));
-        QVERIFY(!f.table()->usesAlternatingRowBackgroundColors());  // kept until reloadData()
-        f.view.reloadData();
-        QVERIFY(f.table()->usesAlternatingRowBackgroundColors());
     }
 
     void sortsByTitleFromBothButtonsWithoutStoring() {
@@ -232,35 +195,6 @@ private slots:
         QTRY_COMPARE(reported.count(), 1);
         drop(f.view, {f.sandbox.folder() + "/files/d"});  // the last one: replaced
         QCOMPARE(f.sandbox.stored(), QString("b:\"1\" c:\"1\" d:\"1\""));
-    }
-
-    void opensOnDoubleClickWhereThePreferenceAndTheItemAllow() {
-        Fixture f({"a", "b"});
-        const auto doubleClick = [&](int row) {
-            QTest::mouseDClick(f.table()->viewport(), Qt::LeftButton, {}, f.inRow(row));
-        };
-        doubleClick(0);
-        QCOMPARE(f.workspace.opened, QStringList());
-        setPreference(Preference::OpenOnDoubleClick, true);
-        ItemRecord hidden = f.view.fileLists()->at(1);
-        hidden.setVisible(VisibleForm::StringZero);
-        f.view.replaceRecord(1, hidden);
-        doubleClick(1);
-        doubleClick(0);
-        QCOMPARE(f.workspace.opened, QStringList{f.paths.at(0)});
-        f.sandbox.log();
-        doubleClick(6);
-        QVERIFY(f.sandbox.log().join(u'\n').contains("uncaught exception"));
-    }
-
-    void staysUnstoredUntilItWasLoaded() {
-        Sandbox sandbox;
-        sandbox.storeList(sandbox.makeFiles({"a"}));
-        DragDropView view;
-        view.setCanDragDrop(true);
-        drop(view, {sandbox.makeFile("b")});
-        view.addFileList({ItemRecord::forPath(sandbox.makeFile("c"), VisibleForm::NumberOne)});
-        QCOMPARE(sandbox.stored(), QString("a:\"1\""));
     }
 
     void fillsInTheColumnsOfATableFromAnInterfaceFile() {

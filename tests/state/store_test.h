@@ -2,7 +2,6 @@
 
 #include <sys/stat.h>
 
-#include <functional>
 #include <memory>
 
 #include <QDir>
@@ -11,8 +10,6 @@
 #include <QTest>
 
 #include "state/item_list.h"
-#include "state/preference_keys.h"
-#include "state/store_file.h"
 
 inline ItemList listOf(int count, const QString& name) {
     ItemList list;
@@ -23,22 +20,15 @@ inline ItemList listOf(int count, const QString& name) {
     return list;
 }
 
-inline bool isOneGeneration(const StoreReading& reading) {
-    if (reading.state != StoreReading::State::Good)
-        return false;
-    const QString name = reading.contents.value("generation").toString();
-    const auto list = reading.contents.value(itemListKey).value<ItemList>();
-    return list == listOf(3000, name);
-}
-
-inline ino_t inodeOf(const QString& file) {
+/// All zero where there is none.
+inline struct stat statusOf(const QString& file) {
     struct stat status {};
-    return ::stat(QFile::encodeName(file).constData(), &status) == 0 ? status.st_ino : 0;
+    ::stat(QFile::encodeName(file).constData(), &status);
+    return status;
 }
 
 inline mode_t modeOf(const QString& file) {
-    struct stat status {};
-    return ::stat(QFile::encodeName(file).constData(), &status) == 0 ? status.st_mode & 0777U : 0;
+    return statusOf(file).st_mode & 0777U;
 }
 
 inline QByteArray read(const QString& file) {
@@ -51,36 +41,20 @@ inline void write(const QString& file, const QByteArray& bytes) {
     QVERIFY(output.open(QIODevice::WriteOnly) && output.write(bytes) == bytes.size());
 }
 
-/// The store in one file: daily life in store_test.cpp, damage and failures in
-/// store_trouble_test.cpp.
-class StoreTest final : public QObject {
+/// A store in a folder of its own for each test: daily life in store_test.cpp, damage and failures
+/// in store_trouble_test.cpp.
+class StoreFolder : public QObject {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() {
+        folder_ = std::make_unique<QTemporaryDir>();
+        QVERIFY(folder_->isValid());
+        file_ = folder_->filePath("defaults.json");
+    }
     void cleanup() { folder_.reset(); }
 
-    void everyTypeStaysItself();
-    void readsSeeWritesAtOnce();
-    void isForItsOwnerAlone();
-    void changesShareOneSaveThatNobodyWaitsFor();
-    void unchangedContentIsNotWritten();
-    void oddContentIsKept();
-    void listOfAnotherTypeIsSetAsideBeforeItIsReplaced();
-    void damagedFileIsSetAside_data();
-    void damagedFileIsSetAside();
-    void unreadableStoreIsLeftAlone_data();
-    void unreadableStoreIsLeftAlone();
-    void missingFileGivesWayToTheCopy();
-    void damagedFileThatCannotBeSetAsideIsNotReplaced();
-    void failedSaveLeavesTheOldFile_data();
-    void failedSaveLeavesTheOldFile();
-    void worksInMemoryWithoutAFolder();
-    void linkStaysALink();
-    void deadTemporariesAreRemoved();
-    void killedAnywhereTheFileIsWhole();
-
-private:
+protected:
     /// Names in the folder other than the file and its backup.
     QStringList otherFiles() const {
         QStringList names =
@@ -89,8 +63,6 @@ private:
         names.removeAll("defaults.json.bak");
         return names;
     }
-    void asOrdinaryUser(mode_t folderMode, const QStringList& ownFiles,
-                        const std::function<void()>& action) const;
 
     std::unique_ptr<QTemporaryDir> folder_;
     QString file_;

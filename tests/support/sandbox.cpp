@@ -29,10 +29,9 @@ Sandbox::Sandbox() {
         [](QtMsgType, const QMessageLogContext&, const QString& message) { logLines << message; });
     QDir(folder()).mkpath(QStringLiteral("files"));
     QDir(folder()).mkpath(QStringLiteral("commands"));
-    setCommand(QStringLiteral("chflags"), {});
-    setCommand(QStringLiteral("killall"), {});
-    setCommand(QStringLiteral("defaults"),
-               QStringLiteral("cat '%1/show-all' 2>/dev/null").arg(folder()));
+    for (const char* command : {"chflags", "killall", "defaults"}) {
+        setCommand(command, {});
+    }
     // Takes the items as they come, and shows them once they are whole.
     writeScript(folder() + QStringLiteral("/commands/refresh"),
                 QStringLiteral("#!/bin/sh\n{ for path; do echo \"$path\"; done; tr '\\0' '\\n'; } "
@@ -86,12 +85,6 @@ QStringList Sandbox::commands() const {
 QStringList Sandbox::told() const {
     [this] { QTRY_VERIFY(QFile::exists(folder() + QStringLiteral("/told"))); }();
     return takeLines(QStringLiteral("told"));
-}
-
-void Sandbox::setShowAllOutput(const QString& text) const {
-    QFile output(folder() + QStringLiteral("/show-all"));
-    QVERIFY(output.open(QIODevice::WriteOnly));
-    output.write(text.toUtf8());
 }
 
 QStringList Sandbox::log() {

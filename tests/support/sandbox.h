@@ -5,10 +5,7 @@
 #include <QTemporaryDir>
 
 #include "list/drag_drop_view.h"
-#include "platform/workspace.h"
 #include "state/user_defaults.h"
-
-class QMimeData;
 
 /// A world of its own for one test: settings, files, recorded command lines, log lines and what
 /// was opened. Nothing outside its temporary folder is touched.
@@ -27,8 +24,6 @@ public:
     void setCommand(const QString& name, const QString& script) const;
     /// Waits for what the file managers are told next: the names of the changed items, in order.
     QStringList told() const;
-    /// What `defaults read` prints from now on.
-    void setShowAllOutput(const QString& text) const;
     /// Log lines since the last call.
     static QStringList log();
 
@@ -45,17 +40,6 @@ private:
 
     QTemporaryDir folder_;
     std::unique_ptr<UserDefaults> defaults_;
-};
-
-/// Writes down what would be opened or revealed.
-class RecordingWorkspace final : public Workspace {
-public:
-    void openFile(const QString& path) override { opened << path; }
-    void selectFile(const QString& path) override { revealed << path; }
-    void openUrl(const QString& address) override { opened << address; }
-
-    QStringList opened;
-    QStringList revealed;
 };
 
 /// Writes down the selection reports: a title, or "nil".
