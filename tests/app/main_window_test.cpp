@@ -1,6 +1,8 @@
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 #include <QTranslator>
 
 #include "app/main_window.h"
