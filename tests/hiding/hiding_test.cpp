@@ -55,13 +55,11 @@ private slots:
     void runsNothingButTheCommand() {
         Sandbox sandbox;
         const QString mark = sandbox.folder() + "/ran";
-        const auto armed = [&](const QString& pattern) { return pattern.arg(mark); };
-        const QStringList paths{
-            armed("/a';touch '%1"), armed("/a;touch %1"),  armed("/a\ntouch %1"),
-            armed("/a$(touch %1)"), armed("/a`touch %1`"), armed("/a|touch %1"),
-            armed("/a>%1"),         armed("/a&touch %1"),  armed("/a\"$(touch %1)\"")};
         Hiding hiding;
-        for (const QString& path : paths) {
+        for (const char* armed :
+             {"/a';touch '%1", "/a;touch %1", "/a\ntouch %1", "/a$(touch %1)", "/a`touch %1`",
+              "/a|touch %1", "/a>%1", "/a&touch %1", "/a\"$(touch %1)\""}) {
+            const QString path = QString(armed).arg(mark);
             ItemList list = listOf(sandbox, {path, sandbox.makeFile("plain")});
             hiding.showAtLaunch(list);
             hiding.hideAtQuit(list);

@@ -102,14 +102,12 @@ private slots:
         f.view.reloadData();
         f.hover(0, 200);
         QVERIFY(f.table()->checkButton()->isVisible() && f.table()->deletedButton()->isVisible());
-        QCOMPARE(f.table()->checkButton()->accessibleName(), QString("Reveal a"));
         QVERIFY(f.table()->checkButton()->y() < f.table()->deletedButton()->y());
         f.hover(1, 200);
         QVERIFY(!f.table()->checkButton()->isVisible() && f.table()->deletedButton()->isVisible());
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(f.table()->viewport(), &leave);
         QVERIFY(!f.table()->deletedButton()->isVisible());
-        QCOMPARE(f.table()->cellForRow(1)->statuesTextField, QString("Hidden"));
     }
 
     void givesTheStatusTheRoomThatALargeFontNeeds() {

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <limits>
 
+#include <QScopeGuard>
 #include <QSemaphore>
 #include <QSignalSpy>
 
@@ -24,8 +25,8 @@ constexpr int longestHold = 10'000;  // milliseconds, for a save that the caller
 /// In place of the system's, so that a save can be held as by a slow disk.
 extern "C" int fsync(int) {
     ++syncs;
-    if (saveIsHeld) {
-        gate.tryAcquire(1, longestHold);
+    if (saveIsHeld && !gate.tryAcquire(1, longestHold)) {
+        saveIsHeld = false;
     }
     return 0;
 }
@@ -45,6 +46,7 @@ private slots:
                             << QVariant(QVariantList()) << QVariantMap()
                             << QVariantMap{{"", QVariantList{false, "1", null}}};
         const QVariantList records{
+            QVariantMap{{"filePath", "/a/b"}, {"fileTitle", "b"}, {"visible", 1}},
             QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "c"}, {"visible", "0"}},
             QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "c"}, {"visible", true}},
             QVariantMap{{"fileTitle", "x"}, {"more", QVariantMap{{"a", QVariantList{2}}}}}, "text"};
@@ -88,6 +90,11 @@ private slots:
 
     void changesShareOneSaveThatNobodyWaitsFor() {
         UserDefaults defaults(file_);
+        const auto letGo = [] {
+            saveIsHeld = false;
+            gate.release();
+        };
+        const auto atEnd = qScopeGuard(letGo);
         syncs = 0;
         saveIsHeld = true;
         defaults.setItemList(listOf(1, "item"));
@@ -101,8 +108,7 @@ private slots:
         }
         QCOMPARE(syncs, 1);
         QVERIFY(!QFile::exists(file_));
-        saveIsHeld = false;
-        gate.release();
+        letGo();
         QTRY_VERIFY(read(file_ + ".bak").contains("\"count\":99"));
         QTRY_COMPARE(syncs, 8);
     }

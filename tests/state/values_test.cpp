@@ -58,6 +58,7 @@ private slots:
             const QVariantMap dictionary{{"filePath", path}, {"fileTitle", title}, {"visible", 1}};
             QVERIFY(sameStoredValue(record.toVariant(), storedForm(dictionary)));
             QVERIFY(ItemRecord::fromVariant(dictionary) == record);
+            QVERIFY(ItemRecord::fromVariant(dictionary).ordinaryForm() == VisibleForm::NumberOne);
         }
     }
 
@@ -71,7 +72,7 @@ private slots:
         const auto values = QVariantList()
                             << null() << "text" << 5 << true << QVariant(QVariantList{usual})
                             << QVariantMap{} << with("visible", true) << with("visible", 1.0)
-                            << with("visible", 0) << with("visible", "yes")
+                            << with("visible", 0) << with("visible", "0") << with("visible", "yes")
                             << with("visible", null()) << with("fileTitle", "c")
                             << with("fileTitle", 7) << with("filePath", usual)
                             << with("note", QVariantList{1, "x", 0.5, null()})
