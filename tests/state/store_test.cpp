@@ -48,8 +48,10 @@ private slots:
         const QVariantList records{
             QVariantMap{{"filePath", "/a/b"}, {"fileTitle", "b"}, {"visible", 1}},
             QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "c"}, {"visible", "0"}},
+            QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "x"}, {"visible", "0"}},
             QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "c"}, {"visible", true}},
-            QVariantMap{{"fileTitle", "x"}, {"more", QVariantMap{{"a", QVariantList{2}}}}}, "text"};
+            QVariantMap{{"fileTitle", "x"}, {"more", QVariantMap{{"a", QVariantList{2}}}}},
+            "text"};
         {
             UserDefaults defaults(file_);
             defaults.setItemList(std::nullopt);
