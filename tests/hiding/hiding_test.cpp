@@ -6,12 +6,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "app/main_window.h"
 #include "hiding/hiding.h"
 #include "platform/application.h"
 #include "sandbox.h"
-#include "state/preference_keys.h"
-#include "ui_Main.h"
 
 Q_DECLARE_METATYPE(Hiding::Obstacle)
 
@@ -110,20 +107,6 @@ private slots:
         QCOMPARE(Sandbox::describe(list), QString("a:\"0\" b:\"0\" c:\"1\""));
         ::close(ends[0]);
         ::close(ends[1]);
-    }
-
-    void letsNothingElseHappenDuringAPress() {
-        Sandbox sandbox;
-        sandbox.storeList(sandbox.makeFiles({"a"}));
-        MainWindow window;
-        window.load();
-        window.show();
-        sandbox.setCommand("chflags", "sleep 0.4");
-        bool happened = false;
-        QTimer::singleShot(0, this, [&happened] { happened = true; });
-        window.outlets().switchButton->click();
-        QVERIFY(!happened);
-        QTRY_VERIFY(happened);
     }
 };
 

@@ -110,18 +110,6 @@ private slots:
         QVERIFY(!f.table()->deletedButton()->isVisible());
     }
 
-    void givesTheStatusTheRoomThatALargeFontNeeds() {
-        QFont large;
-        large.setPixelSize(60);
-        const QFontMetrics metrics(large);
-        ListCell cell;
-        const ListCell::Layout parts = cell.layout(QRect(0, 0, 800, 90), metrics);
-        QVERIFY(parts.status.left() + metrics.horizontalAdvance("Visible") <
-                parts.checkButton.left());
-        cell.setSelected(false);
-        QCOMPARE(cell.layout(QRect(0, 0, 800, 90), metrics).status, parts.status);
-    }
-
     void sortsByTitleFromBothButtonsWithoutStoring() {
         Fixture f({"b", "C", "a"});
         TopView* header = f.view.topViw();
