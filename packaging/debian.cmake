@@ -30,8 +30,10 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# The plug-ins for the display and for the pictures are loaded, not linked.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "hicolor-icon-theme, libqt6svg6, qt6-qpa-plugins")
+# The plug-ins for the display and for the pictures are loaded, not linked. The latter have had a
+# package of their own since Debian 13.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+    "hicolor-icon-theme, qt6-svg-plugins | libqt6svg6 (<< 6.7.2-5~), qt6-qpa-plugins")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "shared-mime-info, xdg-utils, at-spi2-core, qt6-gtk-platformtheme, qt6-translations-l10n, qt6-wayland")
 include(CPack)
