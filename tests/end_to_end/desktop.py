@@ -198,7 +198,8 @@ class Velmora(Application):
     def __init__(self, home, program=None):
         super().__init__(home, str(program or PROGRAM))
         self.items = self.find("Items")
-        wait(lambda: has(self.tree[0], "ACTIVE"), "its window has the focus")
+        # On a locked start it may be the dialog's by now.
+        wait(lambda: any(has(window, "ACTIVE") for window in self.tree), "it has the focus")
 
     def store(self):
         return json.loads(self.home.store.read_text()) if self.home.store.exists() else {}
