@@ -7,6 +7,12 @@
 
 #include "platform/exceptions.h"
 
+namespace {
+
+constexpr qsizetype partSize = 512;
+
+}  // namespace
+
 ItemList ItemList::fromVariantList(const QVariantList& values) {
     ItemList list;
     for (const QVariant& value : values) {
@@ -18,29 +24,52 @@ ItemList ItemList::fromVariantList(const QVariantList& values) {
 QVariantList ItemList::toVariantList() const {
     QVariantList values;
     values.reserve(size());
-    for (const ItemRecord& record : records_) {
-        values.append(record.toVariant());
-    }
+    forEach([&values](const ItemRecord& record) { values.append(record.toVariant()); });
     return values;
+}
+
+qsizetype ItemList::size() const {
+    return isEmpty() ? 0 : (parts_.size() - 1) * partSize + parts_.constLast().size();
 }
 
 const ItemRecord& ItemList::at(qsizetype index) const {
     requireIndex(index);
-    return records_.at(index);
+    return parts_.at(index / partSize).at(index % partSize);
+}
+
+void ItemList::append(const ItemRecord& record) {
+    if (isEmpty() || parts_.constLast().size() == partSize) {
+        parts_.append(QList<ItemRecord>());
+    }
+    parts_.last().append(record);
 }
 
 void ItemList::replace(qsizetype index, const ItemRecord& record) {
     requireIndex(index);
-    records_.replace(index, record);
+    parts_[index / partSize].replace(index % partSize, record);
 }
 
 void ItemList::removeAt(qsizetype index) {
     requireIndex(index);
-    records_.removeAt(index);
+    qsizetype number = index / partSize;
+    parts_[number].removeAt(index % partSize);
+    // Each part that follows gives its first record to the one before it.
+    for (; number + 1 < parts_.size(); ++number) {
+        parts_[number].append(parts_[number + 1].takeFirst());
+    }
+    if (parts_.constLast().isEmpty()) {
+        parts_.removeLast();
+    }
 }
 
 void ItemList::removeIf(const std::function<bool(const ItemRecord&)>& predicate) {
-    records_.removeIf(predicate);
+    ItemList kept;
+    forEach([&](const ItemRecord& record) {
+        if (!predicate(record)) {
+            kept.append(record);
+        }
+    });
+    *this = kept;
 }
 
 void ItemList::sortByTitle(bool ascending) {
@@ -51,26 +80,27 @@ void ItemList::sortByTitle(bool ascending) {
     };
     std::vector<Entry> entries;
     entries.reserve(static_cast<std::size_t>(size()));
-    for (const ItemRecord& record : std::as_const(records_)) {
+    const ItemList before = *this;
+    before.forEach([&entries](const ItemRecord& record) {
         entries.push_back({record.fileTitleView(), &record});
-    }
+    });
     std::stable_sort(entries.begin(), entries.end(),
                      [ascending](const Entry& left, const Entry& right) {
                          return ascending ? left.title < right.title : right.title < left.title;
                      });
-    QList<ItemRecord> sorted;
-    sorted.reserve(size());
+    *this = ItemList();
     for (const Entry& entry : entries) {
-        sorted.append(*entry.record);
+        append(*entry.record);
     }
-    records_ = std::move(sorted);
 }
 
 void ItemList::forEach(const std::function<void(const ItemRecord&)>& visitor) const {
     // The visitor may change this list; the walk goes on over what it was.
-    const QList<ItemRecord> records = records_;
-    for (const ItemRecord& record : records) {
-        visitor(record);
+    const QList<QList<ItemRecord>> parts = parts_;
+    for (const QList<ItemRecord>& part : parts) {
+        for (const ItemRecord& record : part) {
+            visitor(record);
+        }
     }
 }
 

@@ -9,21 +9,21 @@
 /// The ordered array of item records. Display order is list order.
 ///
 /// A value type that shares its content until it is changed, so that the working copy, the store
-/// and a save in progress can hold the same list.
+/// and a save in progress can hold the same list: changing one record of a large list copies a part
+/// of it.
 class ItemList {
 public:
     ItemList() = default;
     static ItemList fromVariantList(const QVariantList& values);
     QVariantList toVariantList() const;
 
-    qsizetype size() const { return records_.size(); }
-    bool isEmpty() const { return records_.isEmpty(); }
+    qsizetype size() const;
+    bool isEmpty() const { return parts_.isEmpty(); }
     /// Throws RangeException (platform/exceptions.h) when the index is outside the list; so do
     /// replace() and removeAt().
     const ItemRecord& at(qsizetype index) const;
 
-    void append(const ItemRecord& record) { records_.append(record); }
-    void append(ItemRecord&& record) { records_.append(std::move(record)); }
+    void append(const ItemRecord& record);
     void replace(qsizetype index, const ItemRecord& record);
     void removeAt(qsizetype index);
     /// Removes every record for which the predicate answers true; keeps the order of the rest.
@@ -33,12 +33,13 @@ public:
     void forEach(const std::function<void(const ItemRecord&)>& visitor) const;
 
     /// Equality of the records in their order; quick for lists that share their content.
-    bool operator==(const ItemList& other) const { return records_ == other.records_; }
+    bool operator==(const ItemList& other) const { return parts_ == other.parts_; }
 
 private:
     void requireIndex(qsizetype index) const;
 
-    QList<ItemRecord> records_;
+    // All full but the last, none empty.
+    QList<QList<ItemRecord>> parts_;
 };
 
 Q_DECLARE_METATYPE(ItemList)

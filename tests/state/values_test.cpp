@@ -111,24 +111,28 @@ private slots:
 
     void listsShareUntilOneIsChanged() {
         ItemList list;
-        for (int i = 0; i < 20; ++i) {
+        for (int i = 0; i < 1100; ++i) {
             list.append(ItemRecord::forPath(QStringLiteral("/some/where/%1").arg(i),
                                             VisibleForm::StringOne));
         }
         const ItemList held = list;
         const QVariantList before = held.toVariantList();
         QVERIFY(ItemList::fromVariantList(before) == held);
-        list.replace(3, ItemRecord());
+        list.replace(700, ItemRecord());
         QVERIFY(!(list == held));
-        list.replace(3, held.at(3));
+        list.replace(700, held.at(700));
         QVERIFY(list == held);
         list.removeAt(0);
+        list.removeAt(list.size() - 1);
         list.removeIf([&held](const ItemRecord& record) {
-            return record == held.at(1) || record == held.at(5) || record == held.at(19);
+            return record == held.at(1) || record == held.at(600) || record == held.at(1098);
         });
         QVariantList left = before;
-        for (const int index : {19, 5, 1, 0}) {
+        for (const int index : {1099, 1098, 600, 1, 0}) {
             left.removeAt(index);
+        }
+        for (; list.size() > 500; left.removeAt(500)) {
+            list.removeAt(500);
         }
         QCOMPARE(list.toVariantList(), left);
         // A walk goes on over what the list was.
