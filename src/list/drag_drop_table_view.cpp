@@ -50,7 +50,7 @@ namespace {
 
 // Cells out of view are dropped once there are more than a few screens of them.
 constexpr size_t mostCells = 256;
-// Icons are found for as long as nobody notices, then events have their turn.
+// Icons are looked up for this long at a time, between other events.
 constexpr int iconTurn = 4;  // milliseconds
 
 class CellDelegate final : public QStyledItemDelegate {

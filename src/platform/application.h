@@ -28,7 +28,7 @@ public:
     /// Ends the innermost modal loop that runs; nothing without one.
     static void stopModal();
 
-    /// Ends the event loop, and the program with it. Asks nobody.
+    /// Ends the event loop, and the program with it, without any question.
     static void terminate();
 
     /// Forgets the clicks and keys that have come in while the program could not take them, so that

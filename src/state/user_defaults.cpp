@@ -26,7 +26,7 @@ UserDefaults::UserDefaults(const QString& file, QObject* parent)
 }
 
 UserDefaults::~UserDefaults() {
-    // Nobody can ask any more what the problem is with the last save.
+    // The last save may fail while the store is destroyed; its problem can no longer be asked for.
     store_->disconnect(this);
     std::erase(instances(), this);
 }

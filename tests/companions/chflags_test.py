@@ -182,7 +182,8 @@ class TheList(Folder):
         strange, = self.make(b"else/.hidden", content=b"x\n")
         if os.geteuid() == 0:
             os.chown(strange, 12345, 12345)
-        targets = [b"key", key, b"nowhere", b"missing/.hidden", b".hidden", b"else/gone/../.hidden"]
+        os.mkdir(self.folder + b"/empty")
+        targets = [b"key", key, b"nowhere", b"empty/.hidden", b"missing/.hidden", b".hidden", b"else/gone/../.hidden"]
         targets += [b"else/.hidden"] if os.geteuid() == 0 else []
         for target in targets:
             with self.subTest(target):

@@ -2,8 +2,10 @@
 import contextlib
 import json
 import os
+import re
 import signal
 import stat
+import subprocess
 import time
 
 import desktop
@@ -103,6 +105,23 @@ class Trouble(Story):
             velmora.find(f"a, {now}", "list item")
         key("alt+F4")
         self.assertEqual(velmora.ended(), 0)
+
+    def test_a_log_whose_reader_is_gone_at_the_start(self):
+        """Without a bus, whose library would ignore the signal by itself."""
+        self.home.seed(*self.home.make("a"))
+        reader, writer = os.pipe()
+        os.close(reader)
+        velmora = subprocess.Popen(
+            [*desktop.BOUND, desktop.PROGRAM], stderr=writer,
+            env={**self.home.environment, "QT_QPA_PLATFORM": "offscreen",
+                 "DBUS_SESSION_BUS_ADDRESS": "disabled:"})
+        os.close(writer)
+        handled = f"/proc/{velmora.pid}/status"
+        wait(lambda: velmora.poll() is not None or int(re.search(
+            r"SigCgt:\s*(\w+)", open(handled).read())[1], 16) >> (signal.SIGTERM - 1) & 1,
+             "it handles its end")
+        velmora.terminate()
+        self.assertEqual(velmora.wait(20), 0)
 
     def test_a_second_start_that_gets_no_answer_says_so(self):
         velmora = self.start()

@@ -7,8 +7,8 @@
 #include "list/drag_drop_view.h"
 #include "state/user_defaults.h"
 
-/// A world of its own for one test: settings, files, recorded command lines, log lines and what
-/// was opened. Nothing outside its temporary folder is touched.
+/// An environment of its own for one test: settings, files, recorded command lines, log lines and
+/// what was opened. Nothing outside its temporary folder is touched.
 class Sandbox {
 public:
     Sandbox();
