@@ -8,6 +8,7 @@
 #include "hiding/hiding.h"
 #include "platform/application.h"
 #include "platform/bundle.h"
+#include "platform/shell.h"
 #include "state/preference_keys.h"
 #include "state/user_defaults.h"
 
@@ -32,7 +33,8 @@ void RDWindowController::closeApplication() {
         hiding_.hideAtQuit(list);
         defaults.setItemList(list);
     }
-    if (defaults.synchronize() || askWhetherToLoseChanges()) {
+    // An end that was asked for from outside meanwhile asks nobody.
+    if (defaults.synchronize() || Shell::isInterrupted() || askWhetherToLoseChanges()) {
         Application::terminate();
     } else {
         closing_ = false;

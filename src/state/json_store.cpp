@@ -119,6 +119,9 @@ void JsonStore::load() {
     } else {
         contents_ = std::move(copy.contents);
     }
+    if (copy.state == State::Damaged) {
+        setAside(backup_);  // the next save replaces it
+    }
     if (reading.state == State::Missing) {
         const QString reason = makeFolderOf(file_);
         if (!reason.isNull()) {
@@ -142,9 +145,6 @@ void JsonStore::replaceDamaged(StoreReading::State copy) {
             : UserDefaults::tr(
                   "The settings could not be read. They were kept as “%1”, and there "
                   "was no good copy to use instead.");
-    if (copy == StoreReading::State::Damaged) {
-        setAside(backup_);
-    }
     // At once, for the next start must find the file good again.
     unsaved_ = true;
     if (keepOldFile()) {

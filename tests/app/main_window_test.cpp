@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -10,6 +12,7 @@
 #include "platform/bundle.h"
 #include "platform/notification_center.h"
 #include "platform/notification_names.h"
+#include "platform/shell.h"
 #include "preferences/rd_two_window_controller.h"
 #include "sandbox.h"
 #include "state/preference_keys.h"
@@ -217,25 +220,35 @@ private slots:
         QVERIFY(QFile::rename(folder, folder + "-away"));
         QFile inTheWay(folder);
         QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        const auto quit = [&w](const QString& answer) {
+        const auto quit = [](Window& window, const QString& answer) {
             bool asked = false;
             QTimer::singleShot(0, [&] {
                 auto* alert = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
                 asked = alert != nullptr && alert->text().contains("could not be saved");
-                for (auto* button : alert->buttons()) {
+                for (auto* button : asked ? alert->buttons() : QList<QAbstractButton*>()) {
                     if (button->text() == answer) {
                         button->click();
                     }
                 }
             });
-            w.main.window().close();
+            window.main.window().close();
+            QCoreApplication::processEvents();
             return asked;
         };
-        QVERIFY(quit("Stay"));
+        QVERIFY(quit(w, "Stay"));
         // What the pass has done is seen in the list, in its own order.
         QCOMPARE(Sandbox::describe(*w.list()->fileLists()), QString("a:\"0\" b:\"0\""));
         QVERIFY(!w.ui.switchButton->on() && w.ui.hideMenuItem->text() == "Show");
-        QVERIFY(quit("Quit"));
+        QVERIFY(quit(w, "Quit"));
+        init();
+        Window ended;
+        int ends[2];
+        QVERIFY(pipe(ends) == 0 && write(ends[1], "", 1) == 1);
+        Shell::setInterruption(ends[0]);  // by a signal, which asks nobody
+        QVERIFY(!quit(ended, "Quit"));
+        Shell::setInterruption(-1);
+        ::close(ends[0]);
+        ::close(ends[1]);
     }
 
     void saysWhatBecameOfTheItem() {

@@ -161,6 +161,11 @@ private slots:
         QVERIFY(UserDefaults(file_).problem().contains("were missing"));
         QCOMPARE(readStore(file_).contents.value(passwordKey), "copy");
         QCOMPARE(UserDefaults(file_).problem(), QString());
+        // A copy that is no good is not lost either.
+        QVERIFY(QFile::remove(file_));
+        write(file_ + ".bak", "{");
+        UserDefaults(file_).setObject("new", passwordKey);
+        QCOMPARE(otherFiles().filter("defaults.json.bak.2").size(), 1);
     }
 
     void damagedFileThatCannotBeSetAsideIsNotReplaced() {
