@@ -33,6 +33,9 @@ set_target_properties(velmora PROPERTIES
 add_custom_command(TARGET velmora POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E copy_if_different
           ${bundle_icon} $<TARGET_BUNDLE_CONTENT_DIR:velmora>/Resources/velmora.icns
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different
+          ${PROJECT_SOURCE_DIR}/docs/how-to.html
+          $<TARGET_BUNDLE_CONTENT_DIR:velmora>/Resources/how-to.html
   VERBATIM
 )
 install(TARGETS velmora BUNDLE DESTINATION .)

@@ -17,8 +17,8 @@
     </message>
     <message>
         <source>textViewTitle</source>
-        <translation>Dateien und Ordner
-aus dem Dateimanager hierher ziehen</translation>
+        <translation>Hier stehen die Dateien und Ordner,
+die Sie verstecken und wieder zeigen</translation>
     </message>
     <message>
         <source>lEi-kk-qD3.title</source>
@@ -38,23 +38,23 @@ aus dem Dateimanager hierher ziehen</translation>
     </message>
     <message>
         <source>fileTitle</source>
-        <translation>Datei</translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>editTitle</source>
-        <translation>Bearbeiten</translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>viewTitle</source>
-        <translation>Ansicht</translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>windowTitle</source>
-        <translation>Fenster</translation>
+        <translation>&amp;Fenster</translation>
     </message>
     <message>
         <source>helpTitle</source>
-        <translation>Hilfe</translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>hideMenuItem</source>
@@ -62,119 +62,119 @@ aus dem Dateimanager hierher ziehen</translation>
     </message>
     <message>
         <source>addMenuItem</source>
-        <translation>Hinzufügen …</translation>
+        <translation>&amp;Hinzufügen …</translation>
     </message>
     <message>
         <source>openMenuItem</source>
-        <translation>Öffnen</translation>
+        <translation>Ö&amp;ffnen</translation>
     </message>
     <message>
         <source>removeMenuItem</source>
-        <translation>Entfernen</translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>closeMenuItem</source>
-        <translation>Schließen</translation>
+        <translation>&amp;Schließen</translation>
     </message>
     <message>
         <source>revealInFinderMenuItem</source>
-        <translation>Im Dateimanager zeigen</translation>
+        <translation>Im Datei&amp;manager zeigen</translation>
     </message>
     <message>
         <source>aboutVelmoraMenuItem</source>
-        <translation>Über Velmora</translation>
+        <translation>Über &amp;Velmora</translation>
     </message>
     <message>
         <source>preferenceMenuItem</source>
-        <translation>Einstellungen …</translation>
+        <translation>&amp;Einstellungen …</translation>
     </message>
     <message>
         <source>checkforUpdatesMenuItem</source>
-        <translation>Nach Updates suchen …</translation>
+        <translation>Nach &amp;Updates suchen …</translation>
     </message>
     <message>
         <source>hideVelmoraMenuItem</source>
-        <translation>Velmora ausblenden</translation>
+        <translation>Velmora &amp;ausblenden</translation>
     </message>
     <message>
         <source>hideOthersMenuItem</source>
-        <translation>Andere ausblenden</translation>
+        <translation>A&amp;ndere ausblenden</translation>
     </message>
     <message>
         <source>showAllMenuItem</source>
-        <translation>Alle einblenden</translation>
+        <translation>Alle e&amp;inblenden</translation>
     </message>
     <message>
         <source>quitVelmoraMenuItem</source>
-        <translation>Velmora beenden</translation>
+        <translation>Velmora &amp;beenden</translation>
     </message>
     <message>
         <source>serviceMenuItem</source>
-        <translation>Dienste</translation>
+        <translation>&amp;Dienste</translation>
     </message>
     <message>
         <source>undo</source>
-        <translation>Rückgängig</translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>redo</source>
-        <translation>Wiederholen</translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>cut</source>
-        <translation>Ausschneiden</translation>
+        <translation>&amp;Ausschneiden</translation>
     </message>
     <message>
         <source>copy</source>
-        <translation>Kopieren</translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>paste</source>
-        <translation>Einfügen</translation>
+        <translation>&amp;Einfügen</translation>
     </message>
     <message>
         <source>delete</source>
-        <translation>Löschen</translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>selectAll</source>
-        <translation>Alles auswählen</translation>
+        <translation>Alle&amp;s auswählen</translation>
     </message>
     <message>
         <source>hideInfo</source>
-        <translation>Objektinfos anzeigen</translation>
+        <translation>Objekt&amp;infos anzeigen</translation>
     </message>
     <message>
         <source>minimize</source>
-        <translation>Minimieren</translation>
+        <translation>&amp;Minimieren</translation>
     </message>
     <message>
         <source>zoom</source>
-        <translation>Zoomen</translation>
+        <translation>&amp;Zoomen</translation>
     </message>
     <message>
         <source>bringAllToFront</source>
-        <translation>Alle nach vorne bringen</translation>
+        <translation>&amp;Alle nach vorne bringen</translation>
     </message>
     <message>
         <source>velmoraHelp</source>
-        <translation>Velmora-Hilfe</translation>
+        <translation>Velmora-&amp;Hilfe</translation>
     </message>
     <message>
         <source>licenseAgreement</source>
-        <translation>Lizenzvereinbarung</translation>
+        <translation>&amp;Lizenzvereinbarung</translation>
     </message>
     <message>
         <source>ackNowleDgments</source>
-        <translation>Danksagungen</translation>
+        <translation>&amp;Danksagungen</translation>
     </message>
     <message>
         <source>inPasswordMeunItem</source>
-        <translation>Passwort ändern …</translation>
+        <translation>&amp;Passwort ändern …</translation>
     </message>
     <message>
         <source>unPasswordMeunItem</source>
-        <translation>Passwort festlegen …</translation>
+        <translation>&amp;Passwort festlegen …</translation>
     </message>
     <message>
         <source>Kind:</source>
@@ -207,6 +207,14 @@ aus dem Dateimanager hierher ziehen</translation>
     <message>
         <source>Password protection</source>
         <translation>Passwortschutz</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 <context>
@@ -255,6 +263,22 @@ aus dem Dateimanager hierher ziehen</translation>
         <source>1.messageContent</source>
         <translation>Das Passwort stimmt nicht. Bitte versuchen Sie es noch einmal.</translation>
     </message>
+    <message>
+        <source>Show password</source>
+        <translation>Passwort zeigen</translation>
+    </message>
+    <message>
+        <source>Enter the password that you have set.</source>
+        <translation>Geben Sie das Passwort ein, das Sie festgelegt haben.</translation>
+    </message>
+    <message>
+        <source>The new password takes the place of the old one. From now on, only this one unlocks the list.</source>
+        <translation>Das neue Passwort tritt an die Stelle des alten. Von nun an entsperrt nur dieses die Liste.</translation>
+    </message>
+    <message>
+        <source>Choose a password. From now on, the list stays locked at each start until you type it exactly as you do here.</source>
+        <translation>Wählen Sie ein Passwort. Von nun an bleibt die Liste nach jedem Start gesperrt, bis Sie es genau so eingeben wie hier.</translation>
+    </message>
 </context>
 <context>
     <name>RDTwoWindowController</name>
@@ -268,7 +292,7 @@ aus dem Dateimanager hierher ziehen</translation>
     </message>
     <message>
         <source>Make visible and open hidden items on double click</source>
-        <translation>Versteckte Objekte per Doppelklick sichtbar machen und öffnen</translation>
+        <translation>Sichtbare Objekte per Doppelklick öffnen</translation>
     </message>
     <message>
         <source>Use Alternating Colors For the Items List Rows</source>
@@ -327,20 +351,48 @@ aus dem Dateimanager hierher ziehen</translation>
         <source>Remove from the list</source>
         <translation>Aus der Liste entfernen</translation>
     </message>
+    <message>
+        <source>Reveal %1</source>
+        <translation>%1 zeigen</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Reveal</source>
+        <translation>Zeigen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
 </context>
 <context>
     <name>DragDropView</name>
     <message>
-        <source>Reveal in File Manager</source>
-        <translation>In der Dateiverwaltung zeigen</translation>
+        <source>&amp;Reveal in File Manager</source>
+        <translation>In der Dateiverwaltung &amp;zeigen</translation>
     </message>
     <message>
-        <source>Remove from List</source>
-        <translation>Aus der Liste entfernen</translation>
+        <source>Re&amp;move from List</source>
+        <translation>Aus der Liste &amp;entfernen</translation>
     </message>
     <message>
         <source>Some of the dropped items could not be added: their names or places are not files on this computer that can be written as text.</source>
         <translation>Einige der abgelegten Objekte konnten nicht hinzugefügt werden: Sie liegen nicht auf diesem Computer, oder ihr Name ist kein gültiger Text.</translation>
+    </message>
+    <message>
+        <source>“%1” stays hidden: to get it back, add it again and press the switch twice.</source>
+        <translation>„%1“ bleibt versteckt: Um es zurückzuholen, fügen Sie es wieder hinzu und drücken den Schalter zweimal.</translation>
+    </message>
+    <message>
+        <source>“%1” was in the list already: it has been taken out, and the rest of the drop was not added.</source>
+        <translation>„%1“ stand schon in der Liste: Es wurde herausgenommen, und der Rest wurde nicht hinzugefügt.</translation>
     </message>
 </context>
 <context>
@@ -353,13 +405,83 @@ aus dem Dateimanager hierher ziehen</translation>
         <source>sorted in descending order</source>
         <translation>absteigend sortiert</translation>
     </message>
+    <message>
+        <source>Item</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
 </context>
 <context>
-    <name>QuietLine</name>
+    <name>ProgressDialog</name>
     <message>
-        <source>Press %1 in %2 to see the change.</source>
-        <translation>Drücken Sie %1 in %2, um die Änderung zu sehen.</translation>
+        <source>Showing the listed items…</source>
+        <translation>Die Objekte der Liste werden sichtbar gemacht …</translation>
     </message>
+    <message>
+        <source>Hiding the listed items…</source>
+        <translation>Die Objekte der Liste werden versteckt …</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Files and folders to add to the list, and to hide or show.</source>
+        <translation>Dateien und Ordner, die in die Liste aufgenommen und versteckt oder gezeigt werden.</translation>
+    </message>
+    <message>
+        <source>Hide files and folders from the file manager, and show them again.</source>
+        <translation>Dateien und Ordner vor dem Dateimanager verstecken und wieder zeigen.</translation>
+    </message>
+    <message>
+        <source>Hide the files; those that are not listed are added.</source>
+        <translation>Die Dateien verstecken; fehlende kommen in die Liste.</translation>
+    </message>
+    <message>
+        <source>Show the files that are listed.</source>
+        <translation>Die Dateien zeigen, die in der Liste stehen.</translation>
+    </message>
+    <message>
+        <source>Show every listed item.</source>
+        <translation>Alle Objekte der Liste zeigen.</translation>
+    </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>Diese Hilfe ausgeben.</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>Die Version ausgeben.</translation>
+    </message>
+    <message>
+        <source>Velmora is running already, but does not answer.</source>
+        <translation>Velmora läuft bereits, antwortet aber nicht.</translation>
+    </message>
+    <message>
+        <source>Only one of --hide, --show and --show-all can be given.</source>
+        <translation>Nur eines von --hide, --show und --show-all ist möglich.</translation>
+    </message>
+    <message>
+        <source>No file was given.</source>
+        <translation>Es wurde keine Datei angegeben.</translation>
+    </message>
+    <message>
+        <source>--show-all takes no files.</source>
+        <translation>--show-all nimmt keine Dateien.</translation>
+    </message>
+</context>
+<context>
+    <name>Hiding</name>
     <message>
         <source>its path holds an apostrophe, which the command cannot take.</source>
         <translation>Der Pfad enthält einen Apostroph, den der Befehl nicht annimmt.</translation>
@@ -391,6 +513,50 @@ aus dem Dateimanager hierher ziehen</translation>
     <message>
         <source>“%1” is still visible: %2</source>
         <translation>„%1“ ist noch sichtbar: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ListRequest</name>
+    <message>
+        <source>Not everything was done: the program was asked to end.</source>
+        <translation>Nicht alles wurde erledigt: Das Programm sollte sich beenden.</translation>
+    </message>
+    <message>
+        <source>Some of the given names are not files on this computer that can be written as text.</source>
+        <translation>Einige der angegebenen Namen sind keine Dateien auf diesem Computer, deren Name gültiger Text ist.</translation>
+    </message>
+    <message>
+        <source>“%1” is not in the list.</source>
+        <translation>„%1“ steht nicht in der Liste.</translation>
+    </message>
+    <message>
+        <source>“%1” does not exist.</source>
+        <translation>„%1“ gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>The list is locked: unlock it in Velmora’s window first.</source>
+        <translation>Die Liste ist gesperrt: Entsperren Sie sie zuerst im Fenster von Velmora.</translation>
+    </message>
+</context>
+<context>
+    <name>QuietLine</name>
+    <message>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>Drücken Sie %1 in %2, um die Änderung zu sehen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n listed item(s) could not be made visible.</source>
+        <translation>
+            <numerusform>%n Objekt der Liste konnte nicht sichtbar gemacht werden.</numerusform>
+            <numerusform>%n Objekte der Liste konnten nicht sichtbar gemacht werden.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n listed item(s) could not be hidden when Velmora last quit.</source>
+        <translation>
+            <numerusform>%n Objekt der Liste konnte beim letzten Beenden nicht versteckt werden.</numerusform>
+            <numerusform>%n Objekte der Liste konnten beim letzten Beenden nicht versteckt werden.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -442,8 +608,37 @@ aus dem Dateimanager hierher ziehen</translation>
 <context>
     <name>WrapLabel</name>
     <message>
-        <source>Copy</source>
-        <translation>Kopieren</translation>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>ListState</name>
+    <message>
+        <source>The list is locked: the password protection switch unlocks it.</source>
+        <translation>Die Liste ist gesperrt: Der Schalter „Passwortschutz“ entsperrt sie.</translation>
+    </message>
+    <message>
+        <source>Drag and drop is closed until a password is entered or Velmora starts again.</source>
+        <translation>Die Liste nimmt nichts Hereingezogenes an, bis ein Passwort eingegeben oder Velmora neu gestartet wird.</translation>
+    </message>
+    <message>
+        <source>Drag files and folders here from your file manager,
+or press “+” below to add files.</source>
+        <translation>Ziehen Sie Dateien und Ordner aus dem Dateimanager hierher,
+oder fügen Sie mit „+“ unten Dateien hinzu.</translation>
+    </message>
+    <message>
+        <source>Press “+” below to add files. Drag and drop is closed
+until a password is entered or Velmora starts again.</source>
+        <translation>Mit „+“ unten fügen Sie Dateien hinzu. Hereinziehen geht erst wieder,
+wenn ein Passwort eingegeben oder Velmora neu gestartet wird.</translation>
+    </message>
+    <message>
+        <source>The list is locked.
+The password protection switch below unlocks it.</source>
+        <translation>Die Liste ist gesperrt.
+Der Schalter „Passwortschutz“ unten entsperrt sie.</translation>
     </message>
 </context>
 </TS>

@@ -9,8 +9,8 @@
     </message>
     <message>
         <source>textViewTitle</source>
-        <translation>Drag files and folders here
-from your file manager</translation>
+        <translation>The files and folders that you hide and show
+are listed here</translation>
     </message>
     <message>
         <source>lEi-kk-qD3.title</source>
@@ -30,23 +30,23 @@ from your file manager</translation>
     </message>
     <message>
         <source>fileTitle</source>
-        <translation>File</translation>
+        <translation>&amp;File</translation>
     </message>
     <message>
         <source>editTitle</source>
-        <translation>Edit</translation>
+        <translation>&amp;Edit</translation>
     </message>
     <message>
         <source>viewTitle</source>
-        <translation>View</translation>
+        <translation>&amp;View</translation>
     </message>
     <message>
         <source>windowTitle</source>
-        <translation>Window</translation>
+        <translation>&amp;Window</translation>
     </message>
     <message>
         <source>helpTitle</source>
-        <translation>Help</translation>
+        <translation>&amp;Help</translation>
     </message>
     <message>
         <source>hideMenuItem</source>
@@ -54,119 +54,119 @@ from your file manager</translation>
     </message>
     <message>
         <source>addMenuItem</source>
-        <translation>Add…</translation>
+        <translation>&amp;Add…</translation>
     </message>
     <message>
         <source>openMenuItem</source>
-        <translation>Open</translation>
+        <translation>&amp;Open</translation>
     </message>
     <message>
         <source>removeMenuItem</source>
-        <translation>Remove</translation>
+        <translation>Re&amp;move</translation>
     </message>
     <message>
         <source>closeMenuItem</source>
-        <translation>Close</translation>
+        <translation>&amp;Close</translation>
     </message>
     <message>
         <source>revealInFinderMenuItem</source>
-        <translation>Reveal in File Manager</translation>
+        <translation>&amp;Reveal in File Manager</translation>
     </message>
     <message>
         <source>aboutVelmoraMenuItem</source>
-        <translation>About Velmora</translation>
+        <translation>&amp;About Velmora</translation>
     </message>
     <message>
         <source>preferenceMenuItem</source>
-        <translation>Preferences…</translation>
+        <translation>&amp;Preferences…</translation>
     </message>
     <message>
         <source>checkforUpdatesMenuItem</source>
-        <translation>Check for Updates…</translation>
+        <translation>Check for &amp;Updates…</translation>
     </message>
     <message>
         <source>hideVelmoraMenuItem</source>
-        <translation>Hide Velmora</translation>
+        <translation>&amp;Hide Velmora</translation>
     </message>
     <message>
         <source>hideOthersMenuItem</source>
-        <translation>Hide Others</translation>
+        <translation>Hide &amp;Others</translation>
     </message>
     <message>
         <source>showAllMenuItem</source>
-        <translation>Show All</translation>
+        <translation>Show A&amp;ll</translation>
     </message>
     <message>
         <source>quitVelmoraMenuItem</source>
-        <translation>Quit Velmora</translation>
+        <translation>&amp;Quit Velmora</translation>
     </message>
     <message>
         <source>serviceMenuItem</source>
-        <translation>Services</translation>
+        <translation>&amp;Services</translation>
     </message>
     <message>
         <source>undo</source>
-        <translation>Undo</translation>
+        <translation>&amp;Undo</translation>
     </message>
     <message>
         <source>redo</source>
-        <translation>Redo</translation>
+        <translation>&amp;Redo</translation>
     </message>
     <message>
         <source>cut</source>
-        <translation>Cut</translation>
+        <translation>Cu&amp;t</translation>
     </message>
     <message>
         <source>copy</source>
-        <translation>Copy</translation>
+        <translation>&amp;Copy</translation>
     </message>
     <message>
         <source>paste</source>
-        <translation>Paste</translation>
+        <translation>&amp;Paste</translation>
     </message>
     <message>
         <source>delete</source>
-        <translation>Delete</translation>
+        <translation>&amp;Delete</translation>
     </message>
     <message>
         <source>selectAll</source>
-        <translation>Select All</translation>
+        <translation>Select &amp;All</translation>
     </message>
     <message>
         <source>hideInfo</source>
-        <translation>Show Item Info</translation>
+        <translation>Show Item &amp;Info</translation>
     </message>
     <message>
         <source>minimize</source>
-        <translation>Minimize</translation>
+        <translation>Mi&amp;nimize</translation>
     </message>
     <message>
         <source>zoom</source>
-        <translation>Zoom</translation>
+        <translation>&amp;Zoom</translation>
     </message>
     <message>
         <source>bringAllToFront</source>
-        <translation>Bring All to Front</translation>
+        <translation>&amp;Bring All to Front</translation>
     </message>
     <message>
         <source>velmoraHelp</source>
-        <translation>Velmora Help</translation>
+        <translation>Velmora &amp;Help</translation>
     </message>
     <message>
         <source>licenseAgreement</source>
-        <translation>License Agreement</translation>
+        <translation>&amp;License Agreement</translation>
     </message>
     <message>
         <source>ackNowleDgments</source>
-        <translation>Acknowledgments</translation>
+        <translation>&amp;Acknowledgments</translation>
     </message>
     <message>
         <source>inPasswordMeunItem</source>
-        <translation>Change Password…</translation>
+        <translation>Change Pass&amp;word…</translation>
     </message>
     <message>
         <source>unPasswordMeunItem</source>
-        <translation>Set Password…</translation>
+        <translation>Set Pass&amp;word…</translation>
     </message>
     <message>
         <source>Kind:</source>
@@ -199,6 +199,14 @@ from your file manager</translation>
     <message>
         <source>Password protection</source>
         <translation>Password protection</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
     </message>
 </context>
 <context>
@@ -260,7 +268,7 @@ from your file manager</translation>
     </message>
     <message>
         <source>Make visible and open hidden items on double click</source>
-        <translation>Make visible and open hidden items on double click</translation>
+        <translation>Open visible items on double click</translation>
     </message>
     <message>
         <source>Use Alternating Colors For the Items List Rows</source>
@@ -307,6 +315,23 @@ from your file manager</translation>
     <message>
         <source>Close</source>
         <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>QuietLine</name>
+    <message numerus="yes">
+        <source>%n listed item(s) could not be made visible.</source>
+        <translation>
+            <numerusform>%n listed item could not be made visible.</numerusform>
+            <numerusform>%n listed items could not be made visible.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n listed item(s) could not be hidden when Velmora last quit.</source>
+        <translation>
+            <numerusform>%n listed item could not be hidden when Velmora last quit.</numerusform>
+            <numerusform>%n listed items could not be hidden when Velmora last quit.</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

@@ -17,8 +17,8 @@
     </message>
     <message>
         <source>textViewTitle</source>
-        <translation>将文件和文件夹
-从文件管理器拖到这里</translation>
+        <translation>您隐藏和显示的文件与文件夹
+会列在这里</translation>
     </message>
     <message>
         <source>lEi-kk-qD3.title</source>
@@ -38,23 +38,23 @@
     </message>
     <message>
         <source>fileTitle</source>
-        <translation>文件</translation>
+        <translation>文件(&amp;F)</translation>
     </message>
     <message>
         <source>editTitle</source>
-        <translation>编辑</translation>
+        <translation>编辑(&amp;E)</translation>
     </message>
     <message>
         <source>viewTitle</source>
-        <translation>显示</translation>
+        <translation>显示(&amp;V)</translation>
     </message>
     <message>
         <source>windowTitle</source>
-        <translation>窗口</translation>
+        <translation>窗口(&amp;W)</translation>
     </message>
     <message>
         <source>helpTitle</source>
-        <translation>帮助</translation>
+        <translation>帮助(&amp;H)</translation>
     </message>
     <message>
         <source>hideMenuItem</source>
@@ -62,119 +62,119 @@
     </message>
     <message>
         <source>addMenuItem</source>
-        <translation>添加…</translation>
+        <translation>添加(&amp;A)…</translation>
     </message>
     <message>
         <source>openMenuItem</source>
-        <translation>打开</translation>
+        <translation>打开(&amp;O)</translation>
     </message>
     <message>
         <source>removeMenuItem</source>
-        <translation>移除</translation>
+        <translation>移除(&amp;M)</translation>
     </message>
     <message>
         <source>closeMenuItem</source>
-        <translation>关闭</translation>
+        <translation>关闭(&amp;C)</translation>
     </message>
     <message>
         <source>revealInFinderMenuItem</source>
-        <translation>在文件管理器中显示</translation>
+        <translation>在文件管理器中显示(&amp;R)</translation>
     </message>
     <message>
         <source>aboutVelmoraMenuItem</source>
-        <translation>关于 Velmora</translation>
+        <translation>关于 Velmora(&amp;A)</translation>
     </message>
     <message>
         <source>preferenceMenuItem</source>
-        <translation>偏好设置…</translation>
+        <translation>偏好设置(&amp;P)…</translation>
     </message>
     <message>
         <source>checkforUpdatesMenuItem</source>
-        <translation>检查更新…</translation>
+        <translation>检查更新(&amp;U)…</translation>
     </message>
     <message>
         <source>hideVelmoraMenuItem</source>
-        <translation>隐藏 Velmora</translation>
+        <translation>隐藏 Velmora(&amp;H)</translation>
     </message>
     <message>
         <source>hideOthersMenuItem</source>
-        <translation>隐藏其他</translation>
+        <translation>隐藏其他(&amp;O)</translation>
     </message>
     <message>
         <source>showAllMenuItem</source>
-        <translation>全部显示</translation>
+        <translation>全部显示(&amp;L)</translation>
     </message>
     <message>
         <source>quitVelmoraMenuItem</source>
-        <translation>退出 Velmora</translation>
+        <translation>退出 Velmora(&amp;Q)</translation>
     </message>
     <message>
         <source>serviceMenuItem</source>
-        <translation>服务</translation>
+        <translation>服务(&amp;S)</translation>
     </message>
     <message>
         <source>undo</source>
-        <translation>撤销</translation>
+        <translation>撤销(&amp;U)</translation>
     </message>
     <message>
         <source>redo</source>
-        <translation>重做</translation>
+        <translation>重做(&amp;R)</translation>
     </message>
     <message>
         <source>cut</source>
-        <translation>剪切</translation>
+        <translation>剪切(&amp;T)</translation>
     </message>
     <message>
         <source>copy</source>
-        <translation>复制</translation>
+        <translation>复制(&amp;C)</translation>
     </message>
     <message>
         <source>paste</source>
-        <translation>粘贴</translation>
+        <translation>粘贴(&amp;P)</translation>
     </message>
     <message>
         <source>delete</source>
-        <translation>删除</translation>
+        <translation>删除(&amp;D)</translation>
     </message>
     <message>
         <source>selectAll</source>
-        <translation>全选</translation>
+        <translation>全选(&amp;A)</translation>
     </message>
     <message>
         <source>hideInfo</source>
-        <translation>显示项目信息</translation>
+        <translation>显示项目信息(&amp;I)</translation>
     </message>
     <message>
         <source>minimize</source>
-        <translation>最小化</translation>
+        <translation>最小化(&amp;N)</translation>
     </message>
     <message>
         <source>zoom</source>
-        <translation>缩放</translation>
+        <translation>缩放(&amp;Z)</translation>
     </message>
     <message>
         <source>bringAllToFront</source>
-        <translation>前置全部窗口</translation>
+        <translation>前置全部窗口(&amp;B)</translation>
     </message>
     <message>
         <source>velmoraHelp</source>
-        <translation>Velmora 帮助</translation>
+        <translation>Velmora 帮助(&amp;H)</translation>
     </message>
     <message>
         <source>licenseAgreement</source>
-        <translation>许可协议</translation>
+        <translation>许可协议(&amp;L)</translation>
     </message>
     <message>
         <source>ackNowleDgments</source>
-        <translation>致谢</translation>
+        <translation>致谢(&amp;A)</translation>
     </message>
     <message>
         <source>inPasswordMeunItem</source>
-        <translation>更改密码…</translation>
+        <translation>更改密码(&amp;W)…</translation>
     </message>
     <message>
         <source>unPasswordMeunItem</source>
-        <translation>设置密码…</translation>
+        <translation>设置密码(&amp;W)…</translation>
     </message>
     <message>
         <source>Kind:</source>
@@ -207,6 +207,14 @@
     <message>
         <source>Password protection</source>
         <translation>密码保护</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>偏好设置</translation>
     </message>
 </context>
 <context>
@@ -255,6 +263,22 @@
         <source>1.messageContent</source>
         <translation>密码不正确，请重试。</translation>
     </message>
+    <message>
+        <source>Show password</source>
+        <translation>显示密码</translation>
+    </message>
+    <message>
+        <source>Enter the password that you have set.</source>
+        <translation>请输入您设置的密码。</translation>
+    </message>
+    <message>
+        <source>The new password takes the place of the old one. From now on, only this one unlocks the list.</source>
+        <translation>新密码将取代旧密码。从现在起，只有新密码能解锁列表。</translation>
+    </message>
+    <message>
+        <source>Choose a password. From now on, the list stays locked at each start until you type it exactly as you do here.</source>
+        <translation>请选择一个密码。从现在起，每次启动后列表都保持锁定，直到您输入与此处完全相同的密码。</translation>
+    </message>
 </context>
 <context>
     <name>RDTwoWindowController</name>
@@ -268,7 +292,7 @@
     </message>
     <message>
         <source>Make visible and open hidden items on double click</source>
-        <translation>双击时显示并打开隐藏的项目</translation>
+        <translation>双击打开可见项目</translation>
     </message>
     <message>
         <source>Use Alternating Colors For the Items List Rows</source>
@@ -327,20 +351,48 @@
         <source>Remove from the list</source>
         <translation>从列表中移除</translation>
     </message>
+    <message>
+        <source>Reveal %1</source>
+        <translation>显示 %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>移除 %1</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>Reveal</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
 </context>
 <context>
     <name>DragDropView</name>
     <message>
-        <source>Reveal in File Manager</source>
-        <translation>在文件管理器中显示</translation>
+        <source>&amp;Reveal in File Manager</source>
+        <translation>在文件管理器中显示(&amp;R)</translation>
     </message>
     <message>
-        <source>Remove from List</source>
-        <translation>从列表中移除</translation>
+        <source>Re&amp;move from List</source>
+        <translation>从列表中移除(&amp;M)</translation>
     </message>
     <message>
         <source>Some of the dropped items could not be added: their names or places are not files on this computer that can be written as text.</source>
         <translation>部分拖入的项目无法添加：它们不在这台电脑上，或名称不是有效的文本。</translation>
+    </message>
+    <message>
+        <source>“%1” stays hidden: to get it back, add it again and press the switch twice.</source>
+        <translation>“%1”仍处于隐藏状态：要恢复它，请重新添加并按两次开关。</translation>
+    </message>
+    <message>
+        <source>“%1” was in the list already: it has been taken out, and the rest of the drop was not added.</source>
+        <translation>“%1”已在列表中：它已被移出，其余拖入的项目没有添加。</translation>
     </message>
 </context>
 <context>
@@ -353,13 +405,83 @@
         <source>sorted in descending order</source>
         <translation>降序排列</translation>
     </message>
+    <message>
+        <source>Item</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>状态</translation>
+    </message>
 </context>
 <context>
-    <name>QuietLine</name>
+    <name>ProgressDialog</name>
     <message>
-        <source>Press %1 in %2 to see the change.</source>
-        <translation>请在 %2 中按 %1 查看更改。</translation>
+        <source>Showing the listed items…</source>
+        <translation>正在显示列表中的项目…</translation>
     </message>
+    <message>
+        <source>Hiding the listed items…</source>
+        <translation>正在隐藏列表中的项目…</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Files and folders to add to the list, and to hide or show.</source>
+        <translation>要添加到列表并隐藏或显示的文件和文件夹。</translation>
+    </message>
+    <message>
+        <source>Hide files and folders from the file manager, and show them again.</source>
+        <translation>在文件管理器中隐藏文件和文件夹，并可再次显示。</translation>
+    </message>
+    <message>
+        <source>Hide the files; those that are not listed are added.</source>
+        <translation>隐藏这些文件；未列出的会被添加。</translation>
+    </message>
+    <message>
+        <source>Show the files that are listed.</source>
+        <translation>显示列表中的这些文件。</translation>
+    </message>
+    <message>
+        <source>Show every listed item.</source>
+        <translation>显示列表中的所有项目。</translation>
+    </message>
+    <message>
+        <source>Print this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
+    <message>
+        <source>Print the version.</source>
+        <translation>显示版本。</translation>
+    </message>
+    <message>
+        <source>Velmora is running already, but does not answer.</source>
+        <translation>Velmora 已在运行，但没有响应。</translation>
+    </message>
+    <message>
+        <source>Only one of --hide, --show and --show-all can be given.</source>
+        <translation>--hide、--show 和 --show-all 只能使用其中之一。</translation>
+    </message>
+    <message>
+        <source>No file was given.</source>
+        <translation>未指定文件。</translation>
+    </message>
+    <message>
+        <source>--show-all takes no files.</source>
+        <translation>--show-all 不接受文件。</translation>
+    </message>
+</context>
+<context>
+    <name>Hiding</name>
     <message>
         <source>its path holds an apostrophe, which the command cannot take.</source>
         <translation>路径中含有单引号，命令无法处理。</translation>
@@ -391,6 +513,48 @@
     <message>
         <source>“%1” is still visible: %2</source>
         <translation>“%1”仍然可见：%2</translation>
+    </message>
+</context>
+<context>
+    <name>ListRequest</name>
+    <message>
+        <source>Not everything was done: the program was asked to end.</source>
+        <translation>并非全部完成：程序被要求结束。</translation>
+    </message>
+    <message>
+        <source>Some of the given names are not files on this computer that can be written as text.</source>
+        <translation>给出的某些名称不是此电脑上名称为有效文本的文件。</translation>
+    </message>
+    <message>
+        <source>“%1” is not in the list.</source>
+        <translation>“%1”不在列表中。</translation>
+    </message>
+    <message>
+        <source>“%1” does not exist.</source>
+        <translation>“%1”不存在。</translation>
+    </message>
+    <message>
+        <source>The list is locked: unlock it in Velmora’s window first.</source>
+        <translation>列表已锁定：请先在 Velmora 窗口中解锁。</translation>
+    </message>
+</context>
+<context>
+    <name>QuietLine</name>
+    <message>
+        <source>Press %1 in %2 to see the change.</source>
+        <translation>请在 %2 中按 %1 查看更改。</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n listed item(s) could not be made visible.</source>
+        <translation>
+            <numerusform>列表中有 %n 个项目未能显示。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n listed item(s) could not be hidden when Velmora last quit.</source>
+        <translation>
+            <numerusform>上次退出时，列表中有 %n 个项目未能隐藏。</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -442,8 +606,37 @@
 <context>
     <name>WrapLabel</name>
     <message>
-        <source>Copy</source>
-        <translation>复制</translation>
+        <source>&amp;Copy</source>
+        <translation>复制(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>ListState</name>
+    <message>
+        <source>The list is locked: the password protection switch unlocks it.</source>
+        <translation>列表已锁定：用密码保护开关可以解锁。</translation>
+    </message>
+    <message>
+        <source>Drag and drop is closed until a password is entered or Velmora starts again.</source>
+        <translation>在输入密码或重新启动 Velmora 之前，不能拖放。</translation>
+    </message>
+    <message>
+        <source>Drag files and folders here from your file manager,
+or press “+” below to add files.</source>
+        <translation>将文件和文件夹从文件管理器拖到这里，
+或按下方的“+”添加文件。</translation>
+    </message>
+    <message>
+        <source>Press “+” below to add files. Drag and drop is closed
+until a password is entered or Velmora starts again.</source>
+        <translation>按下方的“+”添加文件。
+在输入密码或重新启动 Velmora 之前，不能拖放。</translation>
+    </message>
+    <message>
+        <source>The list is locked.
+The password protection switch below unlocks it.</source>
+        <translation>列表已锁定。
+用下方的密码保护开关可以解锁。</translation>
     </message>
 </context>
 </TS>

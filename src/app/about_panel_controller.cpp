@@ -14,8 +14,7 @@ std::unique_ptr<QWidget> AboutPanelController::loadWindow() {
     auto window = std::make_unique<QDialog>();
     Ui::AboutPanelController ui;
     ui.setupUi(window.get());
-    ui.iconView->setPixmap(Bundle::imageNamed(QStringLiteral("velmora"))
-                               .pixmap(QSize(128, 128), window->devicePixelRatioF()));
+    ui.iconView->setPicture(Bundle::imageNamed(QStringLiteral("velmora")), {128, 128});
     QFont nameFont = ui.nameLabel->font();
     nameFont.setBold(true);
     nameFont.setPointSizeF(nameFont.pointSizeF() * 1.6);

@@ -35,23 +35,37 @@ AppDelegate::AppDelegate(const MenuOutlets& outlets, QObject* parent)
 void AppDelegate::connectActions() {
     using Command = void (AppDelegate::*)(QAction*);
     const std::pair<QAction*, Command> commands[] = {
-        {outlets_.addMenuItem, &AppDelegate::addmeaunItem_touch},
         {outlets_.hideMenuItem, &AppDelegate::hidemeaunItem_touch},
         {outlets_.openMenuItem, &AppDelegate::openmeaunItem_touch},
         {outlets_.removeMenuItem, &AppDelegate::removemeaunItem_touch},
         {outlets_.revealInFinderMenuItem, &AppDelegate::revealInFinderMenuItem_touch},
         {outlets_.closeMenuItem, &AppDelegate::closemeaunItem_touch},
+        {outlets_.velmoraHelpMenuItem, &AppDelegate::help},
+    };
+    const std::pair<QAction*, Command> windows[] = {
+        {outlets_.addMenuItem, &AppDelegate::addmeaunItem_touch},
         {outlets_.passwordMeunItem, &AppDelegate::changePasswordAction},
         {outlets_.preferenceMenuItem, &AppDelegate::preferencesAction},
         {outlets_.aboutVelmoraMenuItem, &AppDelegate::ordeAboutPanelAction},
         {outlets_.ackNowleDgmentsMenuItem, &AppDelegate::ackNowleDgments_touch},
         {outlets_.licenseAgreementMenuItem, &AppDelegate::licenseAgreement_touch},
         {outlets_.checkforUpdatesMenuItem, &AppDelegate::checkForUpdates},
-        {outlets_.velmoraHelpMenuItem, &AppDelegate::help},
     };
     for (const auto& entry : commands) {
         connect(entry.first, &QAction::triggered, this,
                 [this, entry] { (this->*entry.second)(entry.first); });
+    }
+    // Assistive technology that chooses one of these is answered before the window opens, and not
+    // only when it is closed. Of two that were chosen at once the first one opens.
+    for (const auto& entry : windows) {
+        connect(
+            entry.first, &QAction::triggered, this,
+            [this, entry] {
+                if (QApplication::activeModalWidget() == nullptr) {
+                    (this->*entry.second)(entry.first);
+                }
+            },
+            Qt::QueuedConnection);
     }
     // Qt has flipped the check mark before it reports the choice; give hide_info() the state that
     // the user saw.
@@ -127,5 +141,5 @@ void AppDelegate::checkForUpdates(QAction* /*sender*/) {
 }
 
 void AppDelegate::help(QAction* /*sender*/) {
-    Workspace::shared().openUrl(helpAddress);
+    Workspace::shared().openUrl(helpAddress());
 }

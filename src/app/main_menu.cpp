@@ -3,6 +3,8 @@
 #include <QAction>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
+#include <QShortcut>
 
 #include "app/menu_outlets.h"
 #include "platform/bundle.h"
@@ -82,6 +84,17 @@ void setMenuKeys(const MenuOutlets& menu) {
     for (const auto& [item, key] : keys) {
         item->setShortcut(key);
     }
+}
+
+void keepRemoveKeyIn(QWidget& list, const MenuOutlets& menu) {
+    menu.removeMenuItem->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    list.addAction(menu.removeMenuItem);
+}
+
+void openByKey(QMenuBar& bar, QMainWindow& window) {
+    auto* key = new QShortcut(Qt::Key_F10, &window);
+    QObject::connect(key, &QShortcut::activated, &bar,
+                     [&bar] { bar.setActiveAction(bar.actions().constFirst()); });
 }
 
 void connectStandardCommands(const MenuOutlets& menu, QMainWindow& window) {

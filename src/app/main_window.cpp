@@ -8,7 +8,9 @@
 #include "app/main_window_look.h"
 #include "controls/rd_custom_button.h"
 #include "controls/rd_switch_button.h"
+#include "hiding/unmet_marks.h"
 #include "platform/application.h"
+#include "state/preference_keys.h"
 #include "state/user_defaults.h"
 #include "ui_Main.h"
 
@@ -52,6 +54,24 @@ ViewController::Outlets viewOutlets(const Ui::Main& ui) {
             .itemInfomationLine = ui.itemInfomationLine};
 }
 
+// The order of the eye: the list, the pane beside it, the bar below. In code because the list's own
+// controls are in no interface file.
+void orderTabs(const Ui::Main& ui) {
+    const DragDropView& list = *ui.fileListView;
+    QWidget* const order[] = {list.topViw()->leftButton(),
+                              list.topViw()->rightButton(),
+                              list.tableView(),
+                              ui.dianjibutton,
+                              ui.addButton,
+                              ui.switchButton,
+                              ui.requirePassword,
+                              ui.settingButton};
+    for (size_t next = 1; next < std::size(order); ++next) {
+        QWidget::setTabOrder(order[next - 1], order[next]);
+    }
+    list.tableView()->setFocus();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(OpenPanel openPanel)
@@ -71,6 +91,12 @@ MainWindow::MainWindow(OpenPanel openPanel)
       itemSwitch_(*outlets_->fileListView, itemCommands_, hiding_),
       itemAdding_(window_, *outlets_->fileListView, itemCommands_, std::move(openPanel),
                   [this] { return passwordGate_.canEditorItem(); }),
+      listState_({.fileListView = outlets_->fileListView,
+                  .textScrollCiew = outlets_->textScrollCiew,
+                  .invitationPicture = outlets_->invitationPicture,
+                  .invitationHint = outlets_->invitationHint},
+                 [this] { return passwordGate_.canEditorItem(); }),
+      unmetMarks_(outlets_->fileListView, [this] { tellUnmetMarks(); }),
       viewController_(viewOutlets(*outlets_), delegate_,
                       {.hiding = hiding_,
                        .itemCommands = itemCommands_,
@@ -78,21 +104,25 @@ MainWindow::MainWindow(OpenPanel openPanel)
                        .itemAdding = itemAdding_,
                        .informationPane = informationPane_,
                        .passwordGate = passwordGate_}),
-      windowController_(window_, hiding_) {
+      windowController_(window_, hiding_, [this] { return outlets_->fileListView->isLoaded(); }),
+      requests_(*outlets_->fileListView, hiding_,
+                [this] { return passwordGate_.canEditorItem(); }) {
+    orderTabs(*outlets_);
     setMenuKeys(delegate_.outlets());
+    keepRemoveKeyIn(*outlets_->fileListView->tableView(), delegate_.outlets());
+    openByKey(*outlets_->mainMenu, window_);
     connectStandardCommands(delegate_.outlets(), window_);
+    outlets_->fileListView->setRowCommands({outlets_->hideMenuItem, outlets_->openMenuItem});
     connectControls();
     connectQuietLine();
-    Shell::setWhileWaiting([this] { stayPainted(); });
 }
 
-MainWindow::~MainWindow() {
-    Shell::setWhileWaiting({});
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::load() {
     windowController_.windowDidLoad();
     viewController_.viewDidLoad();
+    unmetMarks_.request();
     followStore();
 }
 
@@ -100,6 +130,7 @@ void MainWindow::readStoreAgain() {
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     if (!defaults.isRead() && defaults.readAgain()) {
         viewController_.loadFromStore();
+        unmetMarks_.request();
         followStore();
     }
 }
@@ -116,6 +147,15 @@ void MainWindow::followStore() {
     ui.preferenceMenuItem->setEnabled(isRead);
 }
 
+void MainWindow::tellUnmetMarks() {
+    // Only a pass over the whole list marks items that nobody has looked at since.
+    if (preference(Preference::MakeVisibleAtLaunch, QStringLiteral("Main")) ||
+        preference(Preference::MakeInvisibleOnQuit)) {
+        quietLine_.sayUnmet(
+            countUnmetMarks(UserDefaults::standardUserDefaults().itemList().value_or(ItemList())));
+    }
+}
+
 void MainWindow::bringForward(const QByteArray& token) {
     if (!token.isEmpty()) {
         qputenv("XDG_ACTIVATION_TOKEN", token);
@@ -129,8 +169,11 @@ void MainWindow::bringForward(const QByteArray& token) {
 
 void MainWindow::stayPainted() {
     // Nothing but painting: whatever else comes waits for the end of the press or the pass.
-    if (window_.isVisible()) {
+    constexpr int betweenPaintings = 400;  // milliseconds
+    if (window_.isVisible() &&
+        (!sincePainted_.isValid() || sincePainted_.elapsed() >= betweenPaintings)) {
         window_.repaint();
+        sincePainted_.start();
     }
     if (auto* application = qobject_cast<Application*>(QCoreApplication::instance())) {
         application->discardPendingInput();
@@ -148,6 +191,17 @@ void MainWindow::connectControls() {
     onClick(ui.requirePassword, [view, &ui] { view->require_password(ui.requirePassword); });
     onClick(ui.addButton, [view, &ui] { view->addfileList(ui.addButton); });
     onClick(ui.settingButton, [view] { view->settingButtonTouch(); });
+    // A removal or a sort puts another record into the current row and reports nothing: what the
+    // remove command may do follows the row all the same.
+    QObject::connect(ui.fileListView, &DragDropView::reloaded, view, [this, &ui] {
+        itemCommands_.allowRemoval(ui.fileListView->isCurrentRecordVisible());
+        listState_.refresh();
+    });
+    QObject::connect(&passwordGate_, &PasswordGate::changed, &listState_, &ListState::refresh);
+    QObject::connect(&requests_, &RequestQueue::locked, view, [this](const QByteArray& token) {
+        bringForward(token);
+        passwordGate_.askNow();
+    });
     QObject::connect(&windowController_, &RDWindowController::stayed, ui.fileListView, [&ui] {
         ui.fileListView->takeMarks(
             UserDefaults::standardUserDefaults().itemList().value_or(ItemList()));
@@ -165,8 +219,10 @@ void MainWindow::connectQuietLine() {
     const auto sayProblem = [this, defaults] { quietLine_.sayStore(defaults->problem()); };
     QObject::connect(defaults, &UserDefaults::problemChanged, &quietLine_, sayProblem);
     sayProblem();
-    QObject::connect(outlets_->fileListView, &DragDropView::dropRefused, &quietLine_,
-                     &QuietLine::sayDrop);
+    QObject::connect(outlets_->fileListView, &DragDropView::happened, &quietLine_,
+                     &QuietLine::sayHappened);
+    QObject::connect(&requests_, &RequestQueue::happened, &quietLine_, &QuietLine::sayHappened);
+    QObject::connect(&listState_, &ListState::closed, &quietLine_, &QuietLine::sayClosed);
     QObject::connect(&hiding_, &Hiding::switched, &quietLine_, &QuietLine::saySwitched);
     QObject::connect(&hiding_, &Hiding::unreachedChanged, &quietLine_,
                      [this] { quietLine_.sayUnreached(hiding_.unreached()); });

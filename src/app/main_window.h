@@ -2,11 +2,14 @@
 
 #include <memory>
 
+#include <QElapsedTimer>
 #include <QMainWindow>
 
 #include "app/app_delegate.h"
+#include "app/list_state.h"
 #include "app/quiet_line.h"
 #include "app/rd_window_controller.h"
+#include "app/request_queue.h"
 #include "app/view_controller.h"
 #include "hiding/hiding.h"
 #include "hiding/information_pane.h"
@@ -14,7 +17,9 @@
 #include "hiding/item_commands.h"
 #include "hiding/item_switch.h"
 #include "password/password_gate.h"
+#include "platform/after_paint.h"
 #include "platform/open_panel.h"
+#include "platform/shell.h"
 
 namespace Ui {
 class Main;
@@ -43,6 +48,9 @@ public:
     /// one, and may be empty.
     void bringForward(const QByteArray& token);
 
+    /// Does what is asked from outside the window, once no dialog is open.
+    void take(const FileRequest& request) { requests_.take(request); }
+
     QMainWindow& window() { return window_; }
     const Ui::Main& outlets() const { return *outlets_; }
     AppDelegate& delegate() { return delegate_; }
@@ -52,6 +60,7 @@ public:
 private:
     void connectControls();
     void connectQuietLine();
+    void tellUnmetMarks();
     void stayPainted();
     void followStore();
 
@@ -65,6 +74,14 @@ private:
     InformationPane informationPane_;
     ItemSwitch itemSwitch_;
     ItemAdding itemAdding_;
+    ListState listState_;
+    AfterPaint unmetMarks_;
     ViewController viewController_;
     RDWindowController windowController_;
+    RequestQueue requests_;
+    QElapsedTimer sincePainted_;
+    WhileWaiting waiting_{[this] {
+        stayPainted();
+        return true;
+    }};
 };

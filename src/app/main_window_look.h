@@ -5,6 +5,7 @@ namespace Ui {
 class Main;
 }
 
-/// What the interface file cannot say of the main window's look: pictures, localised captions, the
-/// light colours of pane and bar, and sizes that grow with the user's font. No behaviour.
+/// What the interface file cannot say of the main window's look: pictures, localised captions,
+/// colours that are light on every desktop, and sizes that follow the user's font and language,
+/// also when they change. No behaviour.
 void dressMainWindow(const Ui::Main& ui, QMainWindow& window);

@@ -1,26 +1,10 @@
 #include "app/quiet_line.h"
 
-#include <QFileInfo>
 #include <QLabel>
 
-namespace {
-
-QString reasonFor(Hiding::Obstacle obstacle) {
-    switch (obstacle) {
-        case Hiding::Obstacle::Apostrophe:
-            return QuietLine::tr("its path holds an apostrophe, which the command cannot take.");
-        case Hiding::Obstacle::LineBreak:
-            return QuietLine::tr("its name holds a line break, which file managers cannot hide.");
-        case Hiding::Obstacle::TimeUp:
-            return QuietLine::tr("the command did not come to an end.");
-        case Hiding::Obstacle::FolderReadOnly:
-            return QuietLine::tr("its folder cannot be written.");
-        default:
-            return QuietLine::tr("the change was not carried out.");
-    }
-}
-
-}  // namespace
+#include "controls/accessible_events.h"
+#include "hiding/unmet_marks.h"
+#include "platform/shown_text.h"
 
 QuietLine::QuietLine(QLabel* label, QObject* parent)
     : QObject(parent), label_(label), texts_(TopicCount) {
@@ -35,21 +19,21 @@ void QuietLine::say(Topic topic, const QString& text) {
     QStringList said = texts_;
     said.removeAll(QString());
     label_->setText(said.join(u'\n'));
-    label_->setAccessibleName(label_->text());
     label_->setVisible(!said.isEmpty());
+    announce(label_, text);
 }
 
 void QuietLine::saySwitched(const QString& path, bool askedVisible, Hiding::Obstacle obstacle) {
-    QString name = QFileInfo(path).fileName();
-    name.replace(u'\n', u' ');
-    if (obstacle == Hiding::Obstacle::None) {
-        say(Item, {});
-    } else if (obstacle == Hiding::Obstacle::Gone) {
-        say(Item, tr("“%1” no longer exists.").arg(name));
-    } else {
-        const QString message =
-            askedVisible ? tr("“%1” is still hidden: %2") : tr("“%1” is still visible: %2");
-        say(Item, message.arg(name, reasonFor(obstacle)));
+    sayHappened({});
+    say(Item, Hiding::sentence(path, askedVisible, obstacle));
+}
+
+void QuietLine::sayUnmet(const UnmetMarks& unmet) {
+    if (unmet.stillHidden > 0) {
+        sayHappened(tr("%n listed item(s) could not be made visible.", nullptr, unmet.stillHidden));
+    } else if (unmet.stillVisible > 0) {
+        sayHappened(tr("%n listed item(s) could not be hidden when Velmora last quit.", nullptr,
+                       unmet.stillVisible));
     }
 }
 

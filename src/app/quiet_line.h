@@ -6,6 +6,7 @@
 #include "hiding/hiding.h"
 
 class QLabel;
+struct UnmetMarks;
 
 /// The quiet line at the bottom of the window: what a user must know and no more, without a
 /// dialog. It takes no room while there is nothing to say. A later message on the same matter
@@ -19,15 +20,21 @@ public:
 
     /// What is wrong with the settings' store.
     void sayStore(const QString& problem) { say(Store, problem); }
-    /// Why some of a drop was not taken.
-    void sayDrop(const QString& reason) { say(Drop, reason); }
+    /// Why the list that is shown takes no drops.
+    void sayClosed(const QString& reason) { say(Closed, reason); }
+    /// What the user's last action, or the start, did that cannot be seen. Every action says
+    /// something here, if only an empty text, and so takes back what the one before it said.
+    void sayHappened(const QString& text) { say(Happened, text); }
+    /// How many items are marked otherwise than a pass over the whole list has left them: marked
+    /// visible and still hidden, or marked hidden and still visible.
+    void sayUnmet(const UnmetMarks& unmet);
     /// What became of the item that the switch was pressed for.
     void saySwitched(const QString& path, bool askedVisible, Hiding::Obstacle obstacle);
     /// What to press in file managers that could not be told.
     void sayUnreached(const QList<FileManagerRefresh::Unreached>& managers);
 
 private:
-    enum Topic { Store, Item, Drop, Refresh, TopicCount };
+    enum Topic { Store, Closed, Happened, Item, Refresh, TopicCount };
 
     void say(Topic topic, const QString& text);
 

@@ -24,6 +24,7 @@ void RDShowMessageTextWindowController::windowDidLoad() {
     const auto show = [this](const QString& name, const char* title) {
         window()->setWindowTitle(Bundle::localizedString(
             QLatin1String(title), QStringLiteral("RDShowMessageTextWindowController")));
+        messageTextView_->setAccessibleName(window()->windowTitle());
         QFile document(Bundle::pathForResource(name, QStringLiteral("html")));
         if (document.open(QIODevice::ReadOnly)) {
             messageTextView_->setHtml(QString::fromUtf8(document.readAll()));

@@ -1,5 +1,7 @@
 #include "app/rd_window_controller.h"
 
+#include <utility>
+
 #include <QEvent>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -12,8 +14,9 @@
 #include "state/preference_keys.h"
 #include "state/user_defaults.h"
 
-RDWindowController::RDWindowController(QMainWindow& window, Hiding& hiding, QObject* parent)
-    : QObject(parent), window_(window), hiding_(hiding) {}
+RDWindowController::RDWindowController(QMainWindow& window, Hiding& hiding,
+                                       std::function<bool()> isListShown, QObject* parent)
+    : QObject(parent), window_(window), hiding_(hiding), isListShown_(std::move(isListShown)) {}
 
 void RDWindowController::windowDidLoad() {
     window_.setWindowTitle(
@@ -26,20 +29,26 @@ void RDWindowController::closeApplication() {
         return;
     }
     closing_ = true;
-    UserDefaults& defaults = UserDefaults::standardUserDefaults();
-    if (preference(Preference::MakeInvisibleOnQuit)) {
-        // On the stored list, not the window's working copy: the two agree.
-        ItemList list = defaults.itemList().value_or(ItemList());
-        hiding_.hideAtQuit(list);
-        defaults.setItemList(list);
-    }
+    const bool goesOn = !preference(Preference::MakeInvisibleOnQuit) || hideAtQuit();
+    const bool isStored = UserDefaults::standardUserDefaults().synchronize();
     // An end that was asked for from outside meanwhile asks nobody.
-    if (defaults.synchronize() || Shell::isInterrupted() || askWhetherToLoseChanges()) {
+    if (Shell::isInterrupted() || (goesOn && (isStored || askWhetherToLoseChanges()))) {
         Application::terminate();
     } else {
         closing_ = false;
         emit stayed();
     }
+}
+
+bool RDWindowController::hideAtQuit() {
+    using Names = Hiding::Names;
+    // On the stored list, not the window's working copy: the two agree.
+    UserDefaults& defaults = UserDefaults::standardUserDefaults();
+    ItemList list = defaults.itemList().value_or(ItemList());
+    const bool goesOn =
+        hiding_.hideAtQuit(list, isListShown_() ? Names::Told : Names::Kept, window_.winId());
+    defaults.setItemList(list);
+    return goesOn;
 }
 
 bool RDWindowController::askWhetherToLoseChanges() {

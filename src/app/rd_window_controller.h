@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QObject>
 
 class Hiding;
@@ -10,14 +12,17 @@ class RDWindowController final : public QObject {
     Q_OBJECT
 
 public:
-    /// Both must outlive the controller.
-    RDWindowController(QMainWindow& window, Hiding& hiding, QObject* parent = nullptr);
+    /// Window and hiding must outlive the controller. `isListShown` tells whether names of items
+    /// may be told.
+    RDWindowController(QMainWindow& window, Hiding& hiding, std::function<bool()> isListShown,
+                       QObject* parent = nullptr);
 
     /// Titles the window and binds its close button to closeApplication().
     void windowDidLoad();
     /// The quit path: with the quit preference on, every stored record is marked hidden and its
-    /// item hidden, whether or not the list is unlocked; then the application terminates. When the
-    /// changes cannot be saved, the user is asked, and may stay. Runs once at a time.
+    /// item hidden, whether or not the list is unlocked; then the application terminates. The user
+    /// may stop the pass and then stays; when the changes cannot be saved, the user is asked, and
+    /// may stay. Runs once at a time.
     void closeApplication();
     /// Ends the modal loop that is running, if any; the window may close.
     bool windowShouldClose();
@@ -30,9 +35,11 @@ protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
+    bool hideAtQuit();
     bool askWhetherToLoseChanges();
 
     QMainWindow& window_;
     Hiding& hiding_;
+    std::function<bool()> isListShown_;
     bool closing_ = false;
 };

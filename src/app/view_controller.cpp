@@ -67,7 +67,8 @@ void ViewController::loadFromStore() {
     outlets_.textScrollCiew->viewport()->setAutoFillBackground(false);
     for (QFrame* line : {outlets_.fileListViewRightLine, outlets_.fileListViewBottomLine,
                          outlets_.itemInfomationLine}) {
-        setTextColor(line, Qt::black);
+        line->setPalette(Qt::black);
+        line->setAutoFillBackground(true);
     }
     DragDropView* const list = outlets_.fileListView;
     list->setDelegate(this);
@@ -93,7 +94,8 @@ void ViewController::launchReveal() {
     }
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     if (std::optional<ItemList> list = defaults.itemList()) {
-        parts_.hiding.showAtLaunch(*list);
+        parts_.hiding.showAtLaunch(*list,
+                                   canEditorItem() ? Hiding::Names::Told : Hiding::Names::Kept);
         // Saved to the file together with what the existence filter leaves, in the same turn.
         defaults.setItemList(list);
     }

@@ -1,64 +1,58 @@
 #include "controls/pane_button.h"
 
 #include <QPainter>
-#include <QStyle>
+#include <QStyleOptionToolButton>
 
-#include "controls/focus_ring.h"
+#include "controls/looks.h"
 
 namespace {
 
 constexpr qreal cornerRadius = 4.0;
-constexpr QColor pressedShade{0, 0, 0, 40};
-constexpr QColor frameColor{138, 146, 156};
+constexpr QColor frameColor{86, 94, 104};
 constexpr QColor framedGround{244, 245, 247};
-constexpr QColor framedPressed{213, 217, 222};
 
 void drawRoundedFrame(QPainter& painter, const QRect& frame, const QPen& pen,
-                      const QBrush& ground) {
+                      const QColor& ground) {
     const qreal inset = pen.style() == Qt::NoPen ? 0.0 : pen.widthF() / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(pen);
     painter.setBrush(ground);
     painter.drawRoundedRect(QRectF(frame).adjusted(inset, inset, -inset, -inset), cornerRadius,
                             cornerRadius);
-}
-
-QPen focusPen() {
-    return {focusColor, 2};
+    painter.restore();
 }
 
 }  // namespace
 
-void drawPaneButtonFrame(QPainter& painter, const QRect& button, bool pressed, bool focused) {
-    if (!pressed && !focused) {
-        return;
-    }
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    drawRoundedFrame(painter, button, focused ? focusPen() : QPen(Qt::NoPen),
-                     pressed ? QBrush(pressedShade) : QBrush(Qt::NoBrush));
-    painter.restore();
+void drawPaneButtonFrame(QPainter& painter, const QRect& button, QStyle::State state) {
+    drawRoundedFrame(painter, button,
+                     state.testFlag(QStyle::State_HasFocus) ? QPen(focusColor, 2) : QPen(Qt::NoPen),
+                     stateShade(state));
 }
 
-void PaneButton::setFramed(bool framed) {
-    framed_ = framed;
+void PaneButton::setDress(Dress dress) {
+    dress_ = dress;
     update();
 }
 
 QSize PaneButton::sizeHint() const {
-    return iconSize() + QSize(2 * paneButtonMargin, 2 * paneButtonMargin);
+    return grown(iconSize(), font()) + QSize(2 * paneButtonMargin, 2 * paneButtonMargin);
 }
 
 void PaneButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    if (framed_) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        const QColor ground = isDown() ? framedPressed : underMouse() ? Qt::white : framedGround;
-        drawRoundedFrame(painter, rect(), hasFocus() ? focusPen() : QPen(frameColor, 1), ground);
-    } else {
-        drawPaneButtonFrame(painter, rect(), isDown(), hasFocus());
+    QStyleOptionToolButton option;
+    initStyleOption(&option);
+    if (dress_ == Dress::Framed) {
+        drawRoundedFrame(painter, rect(), QPen(isEnabled() ? frameColor : frameColor.lighter(130)),
+                         framedGround);
     }
-    const QRect picture =
-        QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, iconSize(), rect());
-    icon().paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled,
-                 isChecked() ? QIcon::On : QIcon::Off);
+    if (dress_ != Dress::Sign) {
+        drawPaneButtonFrame(painter, rect(), option.state);
+    }
+    const QRect picture = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter,
+                                              grown(iconSize(), font()).boundedTo(size()), rect());
+    drawPicture(painter, icon(), picture, isEnabled() || dress_ == Dress::Sign,
+                isChecked() ? QIcon::On : QIcon::Off);
 }

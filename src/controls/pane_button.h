@@ -1,19 +1,25 @@
 #pragma once
 
+#include <QStyle>
 #include <QToolButton>
 
 class QPainter;
 
-/// A button with a picture and nothing around it, for rows and panes: pressed it darkens, and the
-/// keyboard's focus has a frame. Framed, it stands out as a button. Its ground is light whatever
-/// the desktop's palette is.
+/// A button with a picture and nothing around it, for rows and panes: it darkens under the pointer
+/// and more when it is pressed, and the keyboard's focus has a frame. Its ground is light whatever
+/// the desktop's palette is. The picture grows with the font.
 class PaneButton final : public QToolButton {
     Q_OBJECT
 
 public:
     using QToolButton::QToolButton;
 
-    void setFramed(bool framed);
+    enum class Dress {
+        Plain,
+        Framed,  ///< stands out as a button
+        Sign,    ///< no button to the eye: shows how another control stands
+    };
+    void setDress(Dress dress);
 
     /// The picture with four units around it.
     QSize sizeHint() const override;
@@ -23,10 +29,10 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool framed_ = false;
+    Dress dress_ = Dress::Plain;
 };
 
 /// What PaneButton and the flat push buttons of the panes have around their contents, and its
 /// width on each side.
-void drawPaneButtonFrame(QPainter& painter, const QRect& button, bool pressed, bool focused);
+void drawPaneButtonFrame(QPainter& painter, const QRect& button, QStyle::State state);
 inline constexpr int paneButtonMargin = 4;

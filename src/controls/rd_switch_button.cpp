@@ -4,8 +4,9 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QStyleOption>
 
-#include "controls/focus_ring.h"
+#include "controls/looks.h"
 #include "platform/bundle.h"
 
 namespace {
@@ -19,6 +20,7 @@ constexpr int focusMargin = 3;
 RDSwitchButton::RDSwitchButton(QWidget* parent) : QAbstractButton(parent) {
     setImage(QStringLiteral("switch-pressed-right"));
     setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
@@ -48,13 +50,13 @@ void RDSwitchButton::setImage(const QString& name) {
 }
 
 QSize RDSwitchButton::sizeHint() const {
-    return pictureSize + QSize(2 * focusMargin, 2 * focusMargin);
+    return grown(pictureSize, font()) + QSize(2 * focusMargin, 2 * focusMargin);
 }
 
 void RDSwitchButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    QRect picture(QPoint(), pictureSize);
+    QRect picture(QPoint(), grown(pictureSize, font()));
     picture.moveCenter(rect().center());
     if (hasFocus()) {
         drawFocusRing(painter, picture, cornerRadius);
@@ -62,10 +64,11 @@ void RDSwitchButton::paintEvent(QPaintEvent* /*event*/) {
     QPainterPath corners;
     corners.addRoundedRect(picture, cornerRadius, cornerRadius);
     painter.setClipPath(corners);
-    image_.paint(&painter, picture, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-    if (isDown()) {
-        painter.fillPath(corners, QColor(0, 0, 0, 40));
-    }
+    drawPicture(painter, image_, picture, isEnabled());
+    QStyleOption option;
+    option.initFrom(this);
+    option.state.setFlag(QStyle::State_Sunken, isDown());
+    painter.fillPath(corners, stateShade(option.state));
 }
 
 void RDSwitchButton::keyPressEvent(QKeyEvent* event) {

@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QTextLayout>
 
+#include "platform/shown_text.h"
+
 namespace {
 
 qreal layOut(QTextLayout& layout, int width, Qt::Alignment alignment) {
@@ -34,6 +36,11 @@ WrapLabel::WrapLabel(QWidget* parent) : QLabel(parent) {
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
+}
+
+void WrapLabel::setName(const QString& name) {
+    name_ = name;
+    setText(shownName(name));
 }
 
 int WrapLabel::heightForWidth(int width) const {
@@ -69,6 +76,9 @@ void WrapLabel::contextMenuEvent(QContextMenuEvent* event) {
         return;
     }
     QMenu menu(this);
-    menu.addAction(tr("Copy"), this, [this] { QGuiApplication::clipboard()->setText(text()); });
+    menu.addAction(tr("&Copy"), this, [this] {
+        const bool named = text() == shownName(name_);
+        QGuiApplication::clipboard()->setText(named ? name_ : text());
+    });
     menu.exec(event->globalPos());
 }

@@ -10,6 +10,9 @@ class WrapLabel final : public QLabel {
 public:
     explicit WrapLabel(QWidget* parent = nullptr);
 
+    /// Shows a file's name or path so that nothing in it can deceive; what is copied is itself.
+    void setName(const QString& name);
+
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
     QSize sizeHint() const override;
@@ -19,4 +22,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    QString name_;
 };

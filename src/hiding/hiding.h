@@ -27,6 +27,9 @@ public:
 
     explicit Hiding(QObject* parent = nullptr);
 
+    /// The sentence that tells the user of an obstacle; none for no obstacle.
+    static QString sentence(const QString& path, bool askedVisible, Obstacle obstacle);
+
     /// The file manager's show-all setting as the shell printed it; no value when that was no text.
     std::optional<QString> showAllSetting() const;
     /// The first step of every press of the switch: turns the show-all setting off and has the
@@ -37,11 +40,14 @@ public:
     /// marks the record "1" or "0". Only the switch asks for what became of the item: switched()
     /// follows.
     void switchItem(ItemRecord& record, bool visible);
+    /// Whether the window of a pass that takes long may tell the names of the items.
+    enum class Names { Told, Kept };
     /// The launch pass: shows every item, from the last to the first, paths in single quotes.
-    void showAtLaunch(ItemList& list);
+    void showAtLaunch(ItemList& list, Names names = Names::Kept);
     /// The quit pass: hides every item, from the first to the last, paths as they are; the missing
-    /// quotes are deliberate.
-    void hideAtQuit(ItemList& list);
+    /// quotes are deliberate. False when the user has stopped it: what was done stays done, the
+    /// rest is as it was. `above` is the window system's number of the window that is left, or 0.
+    bool hideAtQuit(ItemList& list, Names names = Names::Kept, quintptr above = 0);
 
     /// File managers with open windows that could not be told.
     const QList<FileManagerRefresh::Unreached>& unreached() const { return refresh_.unreached(); }

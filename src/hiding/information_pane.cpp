@@ -4,8 +4,10 @@
 
 #include <QDateTime>
 #include <QLocale>
+#include <QRegularExpression>
 
 #include "controls/pane_button.h"
+#include "controls/picture_label.h"
 #include "controls/rd_custom_button.h"
 #include "controls/rd_switch_button.h"
 #include "controls/wrap_label.h"
@@ -19,12 +21,20 @@
 
 namespace {
 
-constexpr int iconSide = 96;
+constexpr QSize iconSize(96, 96);
 
 // In units of 8192 bytes, in single precision: the figure has always been counted so.
 QString sizeText(qint64 bytes) {
     const auto figure = static_cast<float>(static_cast<double>(bytes) * 0.125 * 0.0009765625);
     return QString::asprintf("%f K", static_cast<double>(figure));
+}
+
+// The locale's long form without the weekday, which stands first, last or, with a word for "day",
+// in between.
+QString formatWithoutWeekday(const QLocale& locale) {
+    static const QRegularExpression weekday(
+        QStringLiteral("^dddd[\\s,،፣]*|[\\s,،-]*('[^']*'\\s*)?dddd(\\s*'[^']*')?"));
+    return locale.dateFormat(QLocale::LongFormat).remove(weekday).trimmed();
 }
 
 QString dateText(const QDateTime& date) {
@@ -34,9 +44,7 @@ QString dateText(const QDateTime& date) {
     const QLocale locale;
     const QString pattern =
         Bundle::localizedString(QStringLiteral("%1 at %2"), QStringLiteral("Main"));
-    return pattern.arg(locale.toString(date.date(), locale.dateFormat(QLocale::LongFormat)
-                                                        .remove(QStringLiteral("dddd, "))
-                                                        .remove(QStringLiteral("dddd "))),
+    return pattern.arg(locale.toString(date.date(), formatWithoutWeekday(locale)),
                        locale.toString(date.time(), QLocale::ShortFormat));
 }
 
@@ -83,23 +91,21 @@ void InformationPane::showItem(const ItemRecord& record) {
     path_ = record.filePath();
     icon_.request();
     const auto attributes = attributesOfItem(path_);
-    outlets_.filleTitle->setText(record.fileTitle());
+    outlets_.filleTitle->setName(record.fileTitle());
     outlets_.kinDescLabel->setText(Workspace::shared().typeOfFile(path_));
-    outlets_.whereDescLabel->setText(path_);
+    outlets_.whereDescLabel->setName(path_);
     outlets_.sizeDescLabel->setText(sizeText(attributes ? attributes->size : 0));
     outlets_.createdDescLabel->setText(attributes ? dateText(attributes->created) : QString());
     outlets_.modifiedDescLabel->setText(attributes ? dateText(attributes->modified) : QString());
 }
 
 void InformationPane::showIcon() const {
-    const QIcon icon = Workspace::shared().iconForFile(path_);
-    outlets_.fileIconView->setPixmap(
-        icon.pixmap(QSize(iconSide, iconSide), outlets_.fileIconView->devicePixelRatioF()));
+    outlets_.fileIconView->setPicture(Workspace::shared().iconForFile(path_), iconSize);
 }
 
 void InformationPane::clear() {
     icon_.cancel();
-    outlets_.fileIconView->clear();
+    outlets_.fileIconView->setPicture({}, iconSize);
     for (WrapLabel* label :
          {outlets_.filleTitle, outlets_.kinDescLabel, outlets_.whereDescLabel,
           outlets_.sizeDescLabel, outlets_.createdDescLabel, outlets_.modifiedDescLabel}) {

@@ -10,6 +10,7 @@ class DragDropView;
 class ItemCommands;
 class ItemRecord;
 class PaneButton;
+class PictureLabel;
 class QLabel;
 class QWidget;
 class RDSwitchButton;
@@ -26,7 +27,7 @@ public:
     struct Outlets {
         QWidget* customInfoView;
         QWidget* textScrollCiew;  // the introductory text, shown in place of the pane
-        QLabel* fileIconView;
+        PictureLabel* fileIconView;
         WrapLabel* filleTitle;
         QLabel* kinTitle;
         WrapLabel* kinDescLabel;

@@ -14,6 +14,10 @@ void ItemCommands::follow(bool visible) const {
     items_.removeMenuItem->setEnabled(visible);
 }
 
+void ItemCommands::allowRemoval(bool allowed) const {
+    items_.removeMenuItem->setEnabled(allowed);
+}
+
 void ItemCommands::disable() const {
     for (QAction* item :
          {items_.openMenuItem, items_.revealInFinderMenuItem, items_.removeMenuItem}) {

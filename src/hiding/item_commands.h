@@ -22,6 +22,8 @@ public:
 
     /// A visible item can be hidden, opened, revealed and removed; a hidden one only shown again.
     void follow(bool visible) const;
+    /// The remove command alone: whether the list's current row names an item that is visible.
+    void allowRemoval(bool allowed) const;
     /// With an empty list there is nothing to open, reveal or remove.
     void disable() const;
     /// Notes in the log whether the remove command is enabled.

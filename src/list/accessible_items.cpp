@@ -1,5 +1,7 @@
 #include "list/accessible_items.h"
 
+#include <utility>
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QHash>
@@ -7,6 +9,7 @@
 
 #include "controls/pane_button.h"
 #include "list/drag_drop_table_view.h"
+#include "platform/shown_text.h"
 
 namespace {
 
@@ -39,9 +42,10 @@ public:
         const auto cell = table_->cellForRow(row_);
         switch (kind) {
             case QAccessible::Name:
-                return cell->listTextField + QStringLiteral(", ") + cell->statuesTextField;
+                return shownName(cell->listTextField) + QStringLiteral(", ") +
+                       cell->statuesTextField;
             case QAccessible::Description:
-                return cell->filePath;
+                return shownName(cell->filePath);
             default:
                 return {};
         }
@@ -91,11 +95,26 @@ public:
             cell->delatedFilePath();
         }
     }
+    QString localizedActionName(const QString& name) const override {
+        if (name == QLatin1String("Reveal")) {
+            return DragDropTableView::tr("Reveal");
+        }
+        return name == QLatin1String("Remove")
+                   ? DragDropTableView::tr("Remove")
+                   : QAccessibleActionInterface::localizedActionName(name);
+    }
     QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
+
+    // Whether the row reads otherwise than when this was last asked, or than when it was made.
+    bool takeRenamed() {
+        const QString name = text(QAccessible::Name);
+        return std::exchange(name_, name) != name;
+    }
 
 private:
     QPointer<DragDropTableView> table_;
     int row_;
+    QString name_ = text(QAccessible::Name);
 };
 
 class AccessibleTable final : public QAccessibleWidget {
@@ -108,7 +127,8 @@ public:
         }
     }
 
-    int rowCount() const { return table()->model()->rowCount(); }
+    // Asked for as early as in the table's constructor.
+    int rowCount() const { return table()->model() != nullptr ? table()->model()->rowCount() : 0; }
 
     // The rows first, then the buttons of the row under the pointer.
     int childCount() const override { return rowCount() + static_cast<int>(shownButtons().size()); }
@@ -142,12 +162,38 @@ public:
         return table()->hasFocus() && current >= 0 && current < rowCount() ? row(current) : nullptr;
     }
 
-    void rowsChanged() const {
-        for (auto entry = rows_.cbegin(); entry != rows_.cend(); ++entry) {
-            if (QAccessibleInterface* known = QAccessible::accessibleInterface(entry.value())) {
+    // With rows, the focus is that of the current one.
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.focused = state.focused && focusChild() == nullptr;
+        return state;
+    }
+
+    void rowsChanged() {
+        for (const QAccessible::Id id : std::as_const(rows_)) {
+            auto* known = static_cast<AccessibleRow*>(QAccessible::accessibleInterface(id));
+            if (known != nullptr && known->isValid() && known->takeRenamed()) {
                 QAccessibleEvent name(known, QAccessible::NameChanged);
                 QAccessible::updateAccessibility(&name);
             }
+        }
+        if (std::exchange(toldCount_, rowCount()) != rowCount()) {
+            QAccessibleEvent reorder(table(), QAccessible::ObjectReorder);
+            QAccessible::updateAccessibility(&reorder);
+        }
+    }
+    // Sent once the table says the same when it is asked.
+    void currentRowChanged(int left) const {
+        const auto tell = [this](int of, QAccessible::Event what) {
+            if (of >= 0 && of < rowCount()) {
+                QAccessibleEvent event(row(of), what);
+                QAccessible::updateAccessibility(&event);
+            }
+        };
+        tell(left, QAccessible::SelectionRemove);
+        tell(table()->currentRow(), QAccessible::SelectionAdd);
+        if (table()->hasFocus()) {
+            tell(table()->currentRow(), QAccessible::Focus);
         }
     }
 
@@ -173,7 +219,14 @@ private:
     }
 
     mutable QHash<int, QAccessible::Id> rows_;
+    int toldCount_ = rowCount();
 };
+
+AccessibleTable* accessibleSide(DragDropTableView* table) {
+    return QAccessible::isActive()
+               ? dynamic_cast<AccessibleTable*>(QAccessible::queryAccessibleInterface(table))
+               : nullptr;
+}
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
     auto* table = qobject_cast<DragDropTableView*>(object);
@@ -187,13 +240,13 @@ void installAccessibleItems() {
 }
 
 void updateAccessibleItems(DragDropTableView* table) {
-    if (!QAccessible::isActive()) {
-        return;
-    }
-    if (auto* known =
-            dynamic_cast<AccessibleTable*>(QAccessible::queryAccessibleInterface(table))) {
+    if (AccessibleTable* known = accessibleSide(table)) {
         known->rowsChanged();
-        QAccessibleEvent reorder(table, QAccessible::ObjectReorder);
-        QAccessible::updateAccessibility(&reorder);
+    }
+}
+
+void tellCurrentItem(DragDropTableView* table, int left) {
+    if (const AccessibleTable* known = accessibleSide(table)) {
+        known->currentRowChanged(left);
     }
 }

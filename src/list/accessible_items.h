@@ -7,5 +7,8 @@ class DragDropTableView;
 /// under the same rules. Call once, before the first window.
 void installAccessibleItems();
 
-/// Tells assistive technology that the rows may read differently. Cheap while none is connected.
+/// Tells assistive technology which rows read differently now, and whether there are more or
+/// fewer. Cheap while none is connected.
 void updateAccessibleItems(DragDropTableView* table);
+/// Tells it that another row is the current one than `left`, which may be gone.
+void tellCurrentItem(DragDropTableView* table, int left);

@@ -1,7 +1,8 @@
 #include "list/drag_drop_table_view.h"
 
+#include <utility>
+
 #include <QAbstractListModel>
-#include <QContextMenuEvent>
 #include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QPainter>
@@ -10,10 +11,12 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 
+#include "controls/looks.h"
 #include "controls/pane_button.h"
 #include "list/accessible_items.h"
 #include "platform/bundle.h"
 #include "platform/notification_center.h"
+#include "platform/shown_text.h"
 
 /// The rows as of the last reload; what they show is asked of the data source.
 class TableRowsModel final : public QAbstractListModel {
@@ -85,7 +88,7 @@ private:
 DragDropTableView::DragDropTableView(QWidget* parent)
     : QListView(parent), rows_(new TableRowsModel(this)) {
     setObjectName(QStringLiteral("tableView"));
-    setAccessibleName(QStringLiteral("Items"));
+    setAccessibleName(tr("Items"));
     setFrameShape(QFrame::NoFrame);
     setModel(rows_);
     setItemDelegate(new CellDelegate(this));
@@ -128,10 +131,12 @@ void DragDropTableView::makeHoverButtons() {
     deletedButton_->setToolTip(tr("Remove from the list"));
     // A reload in answer to the press makes fresh cells: hold this one until it is through.
     connect(checkButton_, &PaneButton::clicked, this, [this] {
+        clickStartedHere_ = false;
         const auto cell = cellForRow(hoveredRow_);
         cell->searchFilePath();
     });
     connect(deletedButton_, &PaneButton::clicked, this, [this] {
+        clickStartedHere_ = false;
         const auto cell = cellForRow(hoveredRow_);
         cell->delatedFilePath();
     });
@@ -143,9 +148,8 @@ void DragDropTableView::setDataSource(TableDataSource* source) {
 }
 
 int DragDropTableView::rowHeight() const {
-    // 40 units, unless the user's font needs more.
-    const int usual = source_ != nullptr ? source_->heightOfRow(0) : 40;
-    return std::max(usual, fontMetrics().height() + 8);
+    return std::max(source_ != nullptr ? source_->heightOfRow(0) : 0,
+                    ListCell::height(fontMetrics()));
 }
 
 void DragDropTableView::reloadData() {
@@ -155,6 +159,10 @@ void DragDropTableView::reloadData() {
         if (selectedRow() >= count) {
             selectionModel()->clear();
         }
+        if (currentIndex().row() >= count) {
+            // Qt would select a neighbour of the current row that goes, which nobody has chosen.
+            selectionModel()->clearCurrentIndex();
+        }
         rows_->setCount(count);
     }
     cells_.clear();
@@ -162,6 +170,8 @@ void DragDropTableView::reloadData() {
     setHoveredRow(-1);
     viewport()->update();
     updateAccessibleItems(this);
+    tellCurrentRow();
+    emit reloaded();
 }
 
 int DragDropTableView::selectedRow() const {
@@ -173,6 +183,26 @@ void DragDropTableView::setCurrentRow(int row) {
     currentRow_ = row;
     const QScopedValueRollback guard(reloading_, true);
     selectionModel()->setCurrentIndex(rows_->index(row), QItemSelectionModel::NoUpdate);
+    tellCurrentRow();
+}
+
+void DragDropTableView::tellCurrentRow() {
+    // A row that has just been added comes with the next reload.
+    if (currentRow_ != toldRow_ && currentRow_ < rows_->rowCount()) {
+        tellCurrentItem(this, std::exchange(toldRow_, currentRow_));
+    }
+}
+
+// Past QListView, which would tell assistive technology of a row before it is the current one.
+void DragDropTableView::selectionChanged(const QItemSelection& selected,
+                                         const QItemSelection& deselected) {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QAbstractItemView::selectionChanged(selected, deselected);
+}
+
+void DragDropTableView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    QAbstractItemView::currentChanged(current, previous);
 }
 
 void DragDropTableView::selectRow(int row) {
@@ -234,40 +264,6 @@ int DragDropTableView::rowAt(const QPoint& position) const {
     return indexAt(position).row();
 }
 
-void DragDropTableView::mousePressEvent(QMouseEvent* event) {
-    const int row = rowAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton) {
-        clickedRow_ = row;
-    }
-    if (row < 0) {
-        // A click below the last row deselects, which gives the list its first row back.
-        const bool selected = selectedRow() >= 0;
-        selectionModel()->clearSelection();
-        if (!selected && currentRow_ > 0) {
-            emit selectionDidChange();
-        }
-        return;
-    }
-    if (selectedRow() == row && currentRow_ != row) {
-        selectRow(row);
-        return;
-    }
-    QListView::mousePressEvent(event);
-}
-
-void DragDropTableView::mouseDoubleClickEvent(QMouseEvent* event) {
-    QListView::mouseDoubleClickEvent(event);
-    if (event->button() == Qt::LeftButton) {
-        clickedRow_ = rowAt(event->position().toPoint());
-        emit doubleAction();
-    }
-}
-
-void DragDropTableView::mouseMoveEvent(QMouseEvent* event) {
-    setHoveredRow(rowAt(event->position().toPoint()));
-    QListView::mouseMoveEvent(event);
-}
-
 bool DragDropTableView::viewportEvent(QEvent* event) {
     if (event->type() == QEvent::Leave) {
         setHoveredRow(-1);
@@ -311,55 +307,10 @@ void DragDropTableView::placeHoverButtons() {
         cell->layout(visualRect(rows_->index(hoveredRow_)), fontMetrics());
     checkButton_->setGeometry(parts.checkButton);
     deletedButton_->setGeometry(parts.deletedButton);
-    checkButton_->setAccessibleName(QStringLiteral("Reveal ") + cell->listTextField);
-    deletedButton_->setAccessibleName(QStringLiteral("Remove ") + cell->listTextField);
+    checkButton_->setAccessibleName(tr("Reveal %1").arg(shownName(cell->listTextField)));
+    deletedButton_->setAccessibleName(tr("Remove %1").arg(shownName(cell->listTextField)));
     checkButton_->setVisible(!cell->checkButtonHidden);
     deletedButton_->setVisible(!cell->deletedButtonHidden);
-}
-
-void DragDropTableView::keyPressEvent(QKeyEvent* event) {
-    const int last = rows_->rowCount() - 1;
-    const int page = std::max(1, viewport()->height() / rowHeight() - 1);
-    int row = currentRow_;
-    switch (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier
-                ? event->key()
-                : Qt::Key_unknown) {
-        case Qt::Key_Up:
-            row -= 1;
-            break;
-        case Qt::Key_Down:
-            row += 1;
-            break;
-        case Qt::Key_PageUp:
-            row -= page;
-            break;
-        case Qt::Key_PageDown:
-            row += page;
-            break;
-        case Qt::Key_Home:
-            row = 0;
-            break;
-        case Qt::Key_End:
-            row = last;
-            break;
-        default:
-            QListView::keyPressEvent(event);
-            return;
-    }
-    row = std::clamp(row, 0, std::max(0, last));
-    if (row != currentRow_) {
-        selectRow(row);
-    }
-}
-
-void DragDropTableView::contextMenuEvent(QContextMenuEvent* event) {
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    const int row = byKey ? currentRow_ : rowAt(event->pos());
-    if (row < 0 || row >= rows_->rowCount()) {
-        return;
-    }
-    const QPoint below = visualRect(rows_->index(row)).center();
-    emit contextMenuRequested(row, byKey ? viewport()->mapToGlobal(below) : event->globalPos());
 }
 
 void DragDropTableView::initWithInterfaceFile() {
@@ -395,6 +346,24 @@ void DragDropTableView::addColumn(const QString& identifier, const QString& titl
     bold.setBold(true);
     bold.setPointSize(50);
     tableColumns_.append({identifier, title, bold, Qt::AlignHCenter, 100, 100, true, true});
+}
+
+void DragDropTableView::setDropShown(bool shown) {
+    dropShown_ = shown;
+    viewport()->update();
+}
+
+void DragDropTableView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (!dropShown_) {
+        return;
+    }
+    QPainter painter(viewport());
+    constexpr int line = 3;
+    painter.setPen(QPen(focusColor, line));
+    painter.drawRect(QRectF(viewport()->rect()).adjusted(1.5, 1.5, -1.5, -1.5));
+    const int end = visualRect(rows_->index(rows_->rowCount() - 1)).bottom() + 1;
+    painter.fillRect(0, end, viewport()->width(), line, focusColor);
 }
 
 void DragDropTableView::dragEnterEvent(QDragEnterEvent* event) {

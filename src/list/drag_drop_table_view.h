@@ -75,6 +75,9 @@ public:
     /// the list's current row was another.
     void selectRow(int row);
 
+    /// Shows that what is dragged over the list will be added, and where: at its end.
+    void setDropShown(bool shown);
+
     /// Has the row's icon found once the window has nothing better to do, and the row painted anew.
     void wantIcon(int row);
     /// The cell of a row in view, made when it is first asked for.
@@ -92,12 +95,14 @@ public:
     ItemList fileLists;  ///< empty, and read by nobody
 
 signals:
+    void reloaded();
     void selectionDidChange();
     void doubleAction();
     /// The user asked for the context menu of a row.
     void contextMenuRequested(int row, const QPoint& globalPosition);
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -106,8 +111,13 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
+    void selectionChanged(const QItemSelection& selected,
+                          const QItemSelection& deselected) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
+    void tellCurrentRow();
+    void requestMenuOfCurrentRow();
     int rowAt(const QPoint& position) const;
     void makeHoverButtons();
     void setHoveredRow(int row);
@@ -125,6 +135,9 @@ private:
     int hoveredRow_ = -1;
     int clickedRow_ = -1;
     int currentRow_ = -1;
+    int toldRow_ = -1;              // the one that assistive technology takes for the current row
+    bool clickStartedHere_ = true;  // and not on one of the hover buttons
     bool alternating_ = false;
     bool reloading_ = false;
+    bool dropShown_ = false;
 };

@@ -1,12 +1,16 @@
 #include "list/drag_drop_view.h"
 
+#include <utility>
+
 #include <QMenu>
 #include <QVBoxLayout>
 
 #include "platform/bundle.h"
+#include "platform/item_visibility.h"
 #include "platform/log.h"
 #include "platform/notification_center.h"
 #include "platform/notification_names.h"
+#include "platform/shown_text.h"
 #include "platform/workspace.h"
 #include "state/preference_keys.h"
 #include "state/readings.h"
@@ -43,12 +47,12 @@ DragDropView::DragDropView(QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(topViw_);
     layout->addWidget(tableView_);
-    setFocusProxy(tableView_);
     tableView_->setDataSource(this);
     tableView_->setUsesAlternatingRowBackgroundColors(preference(Preference::AlternatingRowColors));
     connect(tableView_, &DragDropTableView::selectionDidChange, this,
             &DragDropView::tableSelectionDidChange);
     topViw_->setDelegate(this);
+    connect(tableView_, &DragDropTableView::reloaded, this, &DragDropView::reloaded);
     connect(tableView_, &DragDropTableView::doubleAction, this, &DragDropView::doubleClick);
     connect(tableView_, &DragDropTableView::contextMenuRequested, this,
             &DragDropView::showContextMenu);
@@ -79,10 +83,24 @@ void DragDropView::removeCurrentRecord() {
     if (selectRowIndex_ < 0 || selectRowIndex_ >= count()) {
         return;
     }
-    fileLists_->removeAt(selectRowIndex_);
+    removeRecordAt(selectRowIndex_);
     reloadData();
     storeFileLists();
     showWhatIsThere();
+}
+
+void DragDropView::removeRecordAt(int row) {
+    const ItemRecord record = fileLists_->at(row);
+    fileLists_->removeAt(row);
+    emit happened(toldOfRemoval(record));
+}
+
+QString DragDropView::toldOfRemoval(const ItemRecord& record) const {
+    // Asked of the disk: the mark says only what was asked for.
+    return isItemHidden(record.filePath())
+               ? tr("“%1” stays hidden: to get it back, add it again and press the switch twice.")
+                     .arg(shownInLine(record.fileTitle()))
+               : QString();
 }
 
 void DragDropView::takeMarks(const ItemList& lists) {
@@ -120,6 +138,11 @@ void DragDropView::setSelectRowIndex(int index) {
     tableView_->setCurrentRow(index);
 }
 
+bool DragDropView::isCurrentRecordVisible() const {
+    return selectRowIndex_ >= 0 && selectRowIndex_ < count() &&
+           truthReading(fileLists_->at(selectRowIndex_).visible());
+}
+
 void DragDropView::selectionReport() {
     // A negative index fails the comparison too.
     if (delegate_ != nullptr && selectRowIndex_ >= 0 && selectRowIndex_ < count()) {
@@ -129,6 +152,7 @@ void DragDropView::selectionReport() {
 }
 
 void DragDropView::tableSelectionDidChange() {
+    emit happened({});
     setSelectRowIndex(std::max(tableView_->selectedRow(), 0));
     selectionReport();
     tableView_->reloadData();
@@ -153,6 +177,7 @@ void DragDropView::addFileList(const QList<ItemRecord>& records) {
     storeFileLists();
     reloadData();
     tableView_->scrollToRow(selectRowIndex_);
+    emit happened({});
 }
 
 void DragDropView::selectTableViewCellForRowIndex(int index) {
@@ -187,6 +212,7 @@ void DragDropView::sort(const ItemButton* button) {
     if (fileLists_) {
         fileLists_->sortByTitle(button->on());
     }
+    emit happened({});
     tableView_->reloadData();
 }
 
@@ -207,7 +233,7 @@ void DragDropView::checkCellBtnTouch(const ListCell& cell) {
 void DragDropView::removeCellBtnTouch(const ListCell& cell) {
     if (count() > 0) {
         const int removed = cell.rowIndex;
-        fileLists_->removeAt(removed);
+        removeRecordAt(removed);
         const int remaining = static_cast<int>(count());
         if (selectRowIndex_ < 0 || selectRowIndex_ >= remaining) {
             selectRowIndex_ = remaining - 1;
@@ -268,11 +294,17 @@ QString DragDropView::titleOfRow(int row) const {
 }
 
 void DragDropView::showContextMenu(int row, const QPoint& position) {
+    // What the menu bar's commands act on is what was reported last.
+    selectTableViewCellForRowIndex(row);
     const auto cell = tableView_->cellForRow(row);
     QMenu menu(this);
+    menu.addActions(rowCommands_);
+    for (QAction* command : std::as_const(rowCommands_)) {
+        command->setShortcutVisibleInContextMenu(true);
+    }
     QAction* reveal =
-        menu.addAction(tr("Reveal in File Manager"), this, [cell] { cell->searchFilePath(); });
+        menu.addAction(tr("&Reveal in File Manager"), this, [cell] { cell->searchFilePath(); });
     reveal->setEnabled(cell->selected());
-    menu.addAction(tr("Remove from List"), this, [cell] { cell->delatedFilePath(); });
+    menu.addAction(tr("Re&move from List"), this, [cell] { cell->delatedFilePath(); });
     menu.exec(position);
 }

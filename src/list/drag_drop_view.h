@@ -11,6 +11,7 @@
 #include "list/top_view.h"
 #include "state/item_list.h"
 
+class QAction;
 class QMimeData;
 struct Notification;
 
@@ -46,6 +47,7 @@ class DragDropView final : public QWidget,
                            public ListCellDelegate,
                            public TableDataSource {
     Q_OBJECT
+    Q_PROPERTY(QStringList editCommands READ editCommands)
 
 public:
     explicit DragDropView(QWidget* parent = nullptr);
@@ -82,6 +84,8 @@ public:
     void storeFileLists();
 
     int selectRowIndex() const { return selectRowIndex_; }
+    /// Whether the current row names a record that is marked visible.
+    bool isCurrentRecordVisible() const;
     /// Only the index: no report, no reload.
     void setSelectRowIndex(int index);
 
@@ -122,21 +126,41 @@ public:
     Qt::DropAction draggingUpdated(const QMimeData* mimeData) const {
         return draggingEntered(mimeData);
     }
+    /// The commands of the Edit menu that can be called now: "copy" with a current record, "paste"
+    /// with addresses on the clipboard while drops are accepted.
+    QStringList editCommands() const;
+    /// Commands of the menu bar that stand first in a row's menu; they must outlive the view. The
+    /// row is reported as the current one before its menu shows, so that they act on it.
+    void setRowCommands(const QList<QAction*>& commands) { rowCommands_ = commands; }
+
     /// The whole drop; the records are in place when it returns. False when drops are refused.
     bool prepareForDragOperation(const QMimeData* mimeData);
 
+public slots:
+    /// Puts the current record on the clipboard: its address as a file and its path as text.
+    void copy();
+    /// What prepareForDragOperation() does with a drop, with what is on the clipboard; on the next
+    /// turn of the event loop.
+    void paste();
+
 signals:
-    /// Some of what was dropped could not be taken: `text` says why, for the quiet line. An empty
-    /// text after a drop that could be taken whole.
-    void dropRefused(const QString& text);
+    /// The rows were shown anew: after every change of the list or of its current row, whether or
+    /// not the delegate was told.
+    void reloaded();
+    /// The user has chosen, added, dropped, removed or sorted: `text` tells for the quiet line what
+    /// cannot be seen of it, and is empty when there is nothing to tell.
+    void happened(const QString& text);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
 private:
     void selectionReport();
+    void removeRecordAt(int row);
+    QString toldOfRemoval(const ItemRecord& record) const;
     void tableSelectionDidChange();
     void sort(const ItemButton* button);
     void showContextMenu(int row, const QPoint& position);
@@ -148,6 +172,7 @@ private:
     int selectRowIndex_ = 0;
     bool canDragDrop_ = false;
     bool loaded_ = false;
+    QList<QAction*> rowCommands_;
     mutable QCache<QString, QIcon> icons_;  // as last looked up
     Qt::DropActions draggingSourceOperationMask_ = Qt::CopyAction | Qt::LinkAction | Qt::MoveAction;
 };

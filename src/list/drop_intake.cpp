@@ -1,42 +1,16 @@
+#include <QClipboard>
 #include <QDragEnterEvent>
+#include <QGuiApplication>
 #include <QHash>
 #include <QMimeData>
-#include <QSysInfo>
-#include <QUrl>
 
 #include "list/drag_drop_view.h"
 #include "platform/exceptions.h"
-#include "platform/file_attributes.h"
+#include "platform/file_addresses.h"
 #include "platform/log.h"
+#include "platform/shown_text.h"
 
 namespace {
-
-struct DroppedPaths {
-    QStringList paths;
-    bool someUnreadable = false;
-};
-
-bool isHere(const QUrl& url) {
-    const QString host = url.host();
-    return url.isLocalFile() &&
-           (host.isEmpty() || host == QLatin1String("localhost") ||
-            host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
-}
-
-// The file names on the drag, as absolute paths in the drag's order. Names that are no valid text
-// cannot be kept as one, and addresses on other machines are no files here.
-DroppedPaths droppedPaths(const QMimeData* data) {
-    DroppedPaths dropped;
-    for (const QUrl& url : data->urls()) {
-        const QString path = isHere(url) ? url.path(QUrl::FullyDecoded) : QString();
-        if (!isAbsolutePath(path) || path.contains(QChar::ReplacementCharacter)) {
-            dropped.someUnreadable = true;
-        } else {
-            dropped.paths << path;
-        }
-    }
-    return dropped;
-}
 
 QString describe(const ItemList& list) {
     QStringList records;
@@ -85,20 +59,31 @@ bool DragDropView::prepareForDragOperation(const QMimeData* mimeData) {
     if (!canDragDrop_) {
         return false;
     }
-    const DroppedPaths dropped = droppedPaths(mimeData);
+    const FileAddresses dropped = filesAt(mimeData->urls());
     if (!fileLists_) {
         fileLists_.emplace();
     }
-    emit dropRefused(dropped.someUnreadable
-                         ? tr("Some of the dropped items could not be added: their names or places "
-                              "are not files on this computer that can be written as text.")
-                         : QString());
+    emit happened(dropped.someUnreadable
+                      ? tr("Some of the dropped items could not be added: their names or places "
+                           "are not files on this computer that can be written as text.")
+                      : QString());
     if (dropped.paths.isEmpty()) {
         return true;
     }
     DropWalk walk(*fileLists_);
     for (const QString& path : dropped.paths) {
-        walk.drop(path);
+        try {
+            walk.drop(path);
+        } catch (const CollectionMutatedException&) {
+            const ItemRecord record = ItemRecord::forPath(path, VisibleForm::StringOne);
+            const QStringList told{
+                tr("“%1” was in the list already: it has been taken out, and the rest of the drop "
+                   "was not added.")
+                    .arg(shownInLine(record.fileTitle())),
+                toldOfRemoval(record)};
+            emit happened(told.join(u' ').trimmed());
+            throw;
+        }
     }
     Log::line(QStringLiteral(">>> ") + describe(*fileLists_));
     storeFileLists();
@@ -109,9 +94,50 @@ bool DragDropView::prepareForDragOperation(const QMimeData* mimeData) {
     return true;
 }
 
+QStringList DragDropView::editCommands() const {
+    QStringList commands;
+    if (selectRowIndex_ >= 0 && selectRowIndex_ < count()) {
+        commands << QStringLiteral("copy");
+    }
+    const QMimeData* clipboard = QGuiApplication::clipboard()->mimeData();
+    if (canDragDrop_ && clipboard != nullptr && clipboard->hasUrls()) {
+        commands << QStringLiteral("paste");
+    }
+    return commands;
+}
+
+void DragDropView::copy() {
+    const QString path = fileLists_.value().at(selectRowIndex_).filePath();
+    const QUrl address = QUrl::fromLocalFile(path);
+    auto* copied = new QMimeData;
+    copied->setUrls({address});
+    copied->setText(path);
+    // What file managers ask for before they paste a file.
+    copied->setData(QStringLiteral("x-special/gnome-copied-files"), "copy\n" + address.toEncoded());
+    QGuiApplication::clipboard()->setMimeData(copied);
+}
+
+void DragDropView::paste() {
+    // Queued: a path that is listed already may end it with an exception, which must not go
+    // through the menu that is being closed.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (const QMimeData* clipboard = QGuiApplication::clipboard()->mimeData()) {
+                prepareForDragOperation(clipboard);
+            }
+        },
+        Qt::QueuedConnection);
+}
+
 void DragDropView::dragEnterEvent(QDragEnterEvent* event) {
     event->setDropAction(draggingEntered(event->mimeData()));
     event->accept();
+    tableView_->setDropShown(canDragDrop_ && event->mimeData()->hasUrls());
+}
+
+void DragDropView::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+    tableView_->setDropShown(false);
 }
 
 void DragDropView::dragMoveEvent(QDragMoveEvent* event) {
@@ -120,6 +146,7 @@ void DragDropView::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void DragDropView::dropEvent(QDropEvent* event) {
+    tableView_->setDropShown(false);
     // Always a copy: a source that thinks its files were moved would delete them.
     event->setDropAction(Qt::CopyAction);
     event->accept();

@@ -3,12 +3,14 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "controls/focus_ring.h"
+#include "controls/looks.h"
 #include "platform/bundle.h"
 
 namespace {
 
 constexpr int statusTag = 2;
+constexpr int titleTop = 10;
+constexpr int titleRoom = 20;
 constexpr int arrowSide = 10;
 constexpr int arrowInset = 20;
 constexpr QColor lineColor{128, 128, 128};
@@ -21,7 +23,7 @@ ItemButton::ItemButton(QWidget* parent) : QAbstractButton(parent) {
 
 void ItemButton::setTag(int tag) {
     tag_ = tag;
-    setAccessibleName(title().trimmed());
+    setAccessibleName(tag == statusTag ? tr("Status") : tr("Item"));
     updateDescription();
     update();
 }
@@ -59,7 +61,7 @@ void ItemButton::updateDescription() {
 }
 
 QSize ItemButton::sizeHint() const {
-    return {fontMetrics().horizontalAdvance(title()) + arrowInset + arrowSide, 30};
+    return {fontMetrics().horizontalAdvance(title()) + grown(arrowInset + arrowSide, font()), 30};
 }
 
 void ItemButton::enterEvent(QEnterEvent* /*event*/) {
@@ -81,13 +83,15 @@ void ItemButton::paintEvent(QPaintEvent* /*event*/) {
     if (tag_ == statusTag) {
         painter.fillRect(0, 0, 1, height(), lineColor);
     }
-    painter.setPen(Qt::black);
-    const int ascentRoom = (height() - fontMetrics().height()) / 2;
-    painter.drawText(QRect(0, ascentRoom, width(), fontMetrics().height()), Qt::AlignLeft, title());
+    painter.setPen(isEnabled() ? QColor(Qt::black) : lineColor);
+    const int line = fontMetrics().height();
+    const int top = line <= titleRoom ? titleTop : (height() - line) / 2;
+    painter.drawText(QRect(0, top, width(), line), Qt::AlignLeft, title());
     if (!paixuImageHidden_) {
-        const QRect arrow(width() - arrowInset, (height() - arrowSide) / 2, arrowSide, arrowSide);
-        Bundle::imageNamed(on_ ? QStringLiteral("up") : QStringLiteral("down"))
-            .paint(&painter, arrow);
+        const int side = grown(arrowSide, font());
+        const QRect arrow(width() - grown(arrowInset, font()), (height() - side) / 2, side, side);
+        drawPicture(painter,
+                    Bundle::imageNamed(on_ ? QStringLiteral("up") : QStringLiteral("down")), arrow);
     }
     if (hasFocus()) {
         painter.setPen(QPen(focusColor, 2));

@@ -5,28 +5,22 @@
 #include <QFontMetrics>
 #include <QPainter>
 
+#include "controls/looks.h"
 #include "platform/bundle.h"
 #include "platform/log.h"
+#include "platform/shown_text.h"
 
 namespace {
 
-constexpr int buttonSide = 20;
-constexpr int titleLeft = 40;
+// What is square in a row grows with its height.
+constexpr int usualHeight = 40;
 constexpr int statusWidth = 60;
-constexpr int iconSide = 24;
+constexpr int statusGap = 20;
 constexpr const char* visibleKey = "lEi-kk-qD3.title";
 constexpr const char* hiddenKey = "L5h-mo-cYT.title";
 
 QString mainTableText(const char* key) {
     return Bundle::localizedString(QLatin1String(key), QStringLiteral("Main"));
-}
-
-int widest(const QFontMetrics& metrics, const QStringList& texts) {
-    int width = 0;
-    for (const QString& text : texts) {
-        width = std::max(width, metrics.horizontalAdvance(text));
-    }
-    return width;
 }
 
 }  // namespace
@@ -36,24 +30,30 @@ ListCell::ListCell()
       listTextField(QStringLiteral("90后")),
       statuesTextField(QStringLiteral("Visible")) {}
 
+int ListCell::height(const QFontMetrics& metrics) {
+    return std::max(usualHeight, metrics.height() * 8 / 5);
+}
+
+int ListCell::statusRoom(const QFontMetrics& metrics) {
+    // Text and buttons share the right edge; the text never runs under a button, and its place is
+    // the same in every row.
+    const int text = std::max(metrics.horizontalAdvance(mainTableText(visibleKey)),
+                              metrics.horizontalAdvance(mainTableText(hiddenKey)));
+    return std::max(statusWidth, text + height(metrics) / 2 + 2);
+}
+
 ListCell::Layout ListCell::layout(const QRect& row, const QFontMetrics& metrics) const {
-    // The status text and the buttons share the right edge; the text's 60 units grow with the
-    // font and the language, alike for every row, so that it never runs under a button.
-    const int textWidth =
-        widest(metrics, {statuesTextField, mainTableText(visibleKey), mainTableText(hiddenKey)});
-    const int statusRoom = std::max(statusWidth, textWidth + buttonSide + 2);
-    const int titleRight = row.right() + 1 - statusRoom;
-    Layout layout;
-    layout.icon = QRect(row.x() + (titleLeft - iconSide) / 2,
-                        row.y() + (row.height() - iconSide) / 2, iconSide, iconSide);
-    layout.title =
-        QRect(row.x() + titleLeft, row.y(), titleRight - row.x() - titleLeft - 4, row.height());
-    layout.status = QRect(titleRight, row.y(), statusRoom, row.height());
+    const int side = row.height();
+    const int buttonSide = side / 2;
+    const int statusLeft = row.right() + 1 - statusRoom(metrics);
     const int buttonLeft = row.right() + 1 - buttonSide;
-    const int middle = row.y() + row.height() / 2;
-    layout.checkButton = QRect(buttonLeft, middle - buttonSide, buttonSide, buttonSide);
-    layout.deletedButton = QRect(buttonLeft, middle, buttonSide, buttonSide);
-    return layout;
+    return {
+        .icon = QRect(row.x(), row.y(), side, side),
+        .title = QRect(row.x() + side, row.y(), statusLeft - statusGap - row.x() - side, side),
+        .status = QRect(statusLeft, row.y(), statusRoom(metrics), side),
+        .checkButton = QRect(buttonLeft, row.y(), buttonSide, buttonSide),
+        .deletedButton = QRect(buttonLeft, row.y() + buttonSide, buttonSide, buttonSide),
+    };
 }
 
 void ListCell::setSelected(bool selected) {
@@ -94,12 +94,12 @@ void ListCell::drawRect(QPainter& painter, const QRect& row) const {
     const QFontMetrics metrics = painter.fontMetrics();
     const Layout parts = layout(row, metrics);
     painter.setOpacity(iconOpacity_);
-    listIcon.paint(&painter, parts.icon);
+    const int margin = row.height() / 5;
+    drawPicture(painter, listIcon, parts.icon.adjusted(margin, margin, -margin, -margin));
     painter.setOpacity(1.0);
     painter.setPen(Qt::black);
     // A line break in a file's name must not break the row.
-    QString title = listTextField;
-    title.replace(u'\n', u' ');
+    const QString title = shownInLine(listTextField);
     painter.drawText(parts.title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                      metrics.elidedText(title, Qt::ElideMiddle, parts.title.width()));
     painter.drawText(parts.status, Qt::AlignLeft | Qt::AlignVCenter, statuesTextField);

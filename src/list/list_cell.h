@@ -26,9 +26,14 @@ public:
     /// The placeholder icon and texts that stand until the list view has set its own.
     ListCell();
 
+    /// The height of a row, and the room that its status text and its buttons take at the right:
+    /// as given, unless the user's font or language needs more.
+    static int height(const QFontMetrics& metrics);
+    static int statusRoom(const QFontMetrics& metrics);
+
     /// Where the parts of the row lie within `row`, in the row's own coordinates.
     struct Layout {
-        QRect icon;
+        QRect icon;  // a square with the picture in its middle
         QRect title;
         QRect status;
         QRect checkButton;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "list/list_cell.h"
 #include "platform/geometry.h"
 
 namespace {
@@ -52,12 +53,23 @@ QSize TopView::sizeHint() const {
     return {240, std::max(headerHeight, fontMetrics().height() + 10)};
 }
 
+QSize TopView::minimumSizeHint() const {
+    return {leftButton_->sizeHint().width() + statusRoom(), sizeHint().height()};
+}
+
+int TopView::statusRoom() const {
+    // Begins as far before the status texts as the two given widths say.
+    constexpr int given = statusWidth - 60;
+    return std::max({statusWidth, rightButton_->sizeHint().width(),
+                     ListCell::statusRoom(fontMetrics()) + given});
+}
+
 void TopView::resizeEvent(QResizeEvent* /*event*/) {
     layOutButtons();
 }
 
 void TopView::layOutButtons() {
-    const int right = std::max(statusWidth, rightButton_->sizeHint().width());
+    const int right = statusRoom();
     const int buttonHeight = height();
     const QRect left(0, 1, width() - right, buttonHeight);
     leftButton_->setGeometry(fromBottomLeft(left, height()));

@@ -34,11 +34,13 @@ public:
     void rightBtnTouch();
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int statusRoom() const;
     void layOutButtons();
     static void touch(ItemButton* touched, ItemButton* other);
 

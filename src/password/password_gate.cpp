@@ -44,10 +44,7 @@ bool PasswordGate::canEditorItem() const {
     if (!UserDefaults::standardUserDefaults().isRead()) {
         return false;
     }
-    if (isPasswordStored() && integerReading(stored(requirePasswordKey)) == 1) {
-        return canReSetRequirtPassword_;
-    }
-    return true;
+    return !isProtected() || canReSetRequirtPassword_;
 }
 
 void PasswordGate::require_password(RdCustomButton* sender) {
@@ -82,14 +79,15 @@ void PasswordGate::changePasswordMeunItem(const Notification& /*notification*/) 
 }
 
 void PasswordGate::askSoon() {
-    QTimer::singleShot(promptDelay, this, [this] {
-        // Whoever pressed the protection switch meanwhile has been asked, or is being asked,
-        // already.
-        if (!canEditorItem() &&
-            outlets_.window->findChild<RDPasswordViewController*>() == nullptr) {
-            inputRequire_password(nullptr);
-        }
-    });
+    QTimer::singleShot(promptDelay, this, &PasswordGate::askNow);
+}
+
+void PasswordGate::askNow() {
+    // Whoever pressed the protection switch meanwhile has been asked, or is being asked, already.
+    if (!canEditorItem() && isPasswordStored() &&
+        outlets_.window->findChild<RDPasswordViewController*>() == nullptr) {
+        inputRequire_password(nullptr);
+    }
 }
 
 RDPasswordViewController* PasswordGate::makeDialog() const {
@@ -145,6 +143,7 @@ void PasswordGate::titleCommand() const {
                                 QStringLiteral("Main")));
 }
 
-void PasswordGate::enableCommand() const {
+void PasswordGate::enableCommand() {
     outlets_.passwordMeunItem->setEnabled(canEditorItem());
+    emit changed();
 }

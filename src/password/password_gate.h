@@ -37,11 +37,17 @@ public:
     /// Asks for the password a second from now, unless it has been entered by then or is being
     /// asked for.
     void askSoon();
+    /// The same at once.
+    void askNow();
     /// Titles the password command by whether a password is stored.
     void titleCommand() const;
     /// Changing the password asks for no old one, so the command is closed while the list is
     /// locked.
-    void enableCommand() const;
+    void enableCommand();
+
+signals:
+    /// What canEditorItem() answers, or whether the list takes drops, may have changed.
+    void changed();
 
 private:
     RDPasswordViewController* makeDialog() const;

@@ -33,6 +33,12 @@ RDPasswordViewController::RDPasswordViewController(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::RDPasswordViewController>()) {
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
+    ui_->showPassword->setDress(PaneButton::Dress::Framed);
+    ui_->showPassword->setAccessibleName(tr("Show password"));
+    ui_->showPassword->setToolTip(ui_->showPassword->accessibleName());
+    connect(ui_->showPassword, &QAbstractButton::toggled, this,
+            &RDPasswordViewController::showTypedText);
+    showTypedText(false);
     connect(ui_->yanzhengSave, &QPushButton::clicked, this, &RDPasswordViewController::save);
     connect(ui_->yanzhengCancel, &QPushButton::clicked, this, &RDPasswordViewController::cancel);
 }
@@ -53,10 +59,8 @@ void RDPasswordViewController::viewDidLoad() {
     setWindowTitle(text("1.title"));
     ui_->yanzhengCancel->setText(text("cancelTitle"));
     ui_->yanzhengSave->setText(text("saveTitle"));
-    ui_->appIconView->setPixmap(
-        Bundle::imageNamed(text("appImageName")).pixmap(pictureSize, devicePixelRatioF()));
-    ui_->velmoraImageView->setPixmap(
-        Bundle::imageNamed(text("lockImageName")).pixmap(pictureSize, devicePixelRatioF()));
+    ui_->appIconView->setPicture(Bundle::imageNamed(text("appImageName")), pictureSize);
+    ui_->velmoraImageView->setPicture(Bundle::imageNamed(text("lockImageName")), pictureSize);
     ui_->passwordTitle->setText(text("1.labelTitle"));
     if (setPassword) {
         ui_->yanzhengSave->setText(text("1.alertButtonTitle"));
@@ -71,7 +75,25 @@ void RDPasswordViewController::viewDidLoad() {
     } else {
         ui_->yanzhengSave->setText(text("1.alertButtonTitle"));
     }
+    ui_->passwordHint->setText(hint());
     ui_->passwordFilde->setAccessibleName(ui_->passwordTitle->text());
+    ui_->passwordFilde->setAccessibleDescription(hint());
+}
+
+QString RDPasswordViewController::hint() const {
+    if (!setPassword) {
+        return tr("Enter the password that you have set.");
+    }
+    return setNewPassword ? tr("The new password takes the place of the old one. From now on, only "
+                               "this one unlocks the list.")
+                          : tr("Choose a password. From now on, the list stays locked at each "
+                               "start until you type it exactly as you do here.");
+}
+
+void RDPasswordViewController::showTypedText(bool shown) {
+    ui_->passwordFilde->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);
+    ui_->showPassword->setIcon(
+        Bundle::imageNamed(shown ? QStringLiteral("eye-closed") : QStringLiteral("eye")));
 }
 
 void RDPasswordViewController::save() {
@@ -111,6 +133,7 @@ void RDPasswordViewController::verify() {
             QStringLiteral("QLabel#qt_msgbox_informativelabel { min-width: 18em; }"));
         alert.exec();
         ui_->passwordFilde->setFocus(Qt::OtherFocusReason);
+        ui_->passwordFilde->selectAll();
         return;
     }
     postChangePassword({{QStringLiteral("passwordvalue"), typed}});

@@ -41,6 +41,9 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    /// What will happen, in a sentence.
+    QString hint() const;
+    void showTypedText(bool shown);
     void saveNewPassword();
     void verify();
     void dismissController();

@@ -1,15 +1,18 @@
 #include "platform/application.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
 #include <QEventLoop>
 #include <QPointer>
+#include <QScreen>
 #include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
 #include "platform/log.h"
+#include "platform/termination_signals.h"
 
 namespace {
 
@@ -92,6 +95,7 @@ bool Application::notify(QObject* receiver, QEvent* event) {
 
 bool Application::event(QEvent* event) {
     if (event->type() == QEvent::Quit) {
+        TerminationSignals::request();  // a command line that is waited for is to end too
         terminate();
         return true;
     }
@@ -121,7 +125,11 @@ void Application::presentOver(QWidget* window, const QWidget* below) {
         }
         QRect frame(QPoint(), window->size());
         frame.moveCenter(below->window()->geometry().center());
-        window->move(frame.topLeft());
+        // All of it on the screen, where that is large enough.
+        const QRect screen = below->screen()->availableGeometry();
+        const QPoint last = screen.bottomRight() - frame.bottomRight() + frame.topLeft();
+        window->move(std::max(screen.left(), std::min(frame.left(), last.x())),
+                     std::max(screen.top(), std::min(frame.top(), last.y())));
     }
     window->show();
     window->raise();

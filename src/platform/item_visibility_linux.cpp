@@ -24,12 +24,25 @@ QByteArrayList namesHiddenIn(const QByteArray& folder) {
 
 }  // namespace
 
-bool isItemHidden(const QString& path) {
+bool HiddenItems::contains(const QString& path) {
     QByteArray item = QFile::encodeName(path);
     while (item.size() > 1 && item.endsWith('/')) {
         item.chop(1);
     }
     const qsizetype nameStart = item.lastIndexOf('/') + 1;
     const QByteArray name = item.sliced(nameStart);
-    return name.startsWith('.') || namesHiddenIn(item.first(nameStart)).contains(name);
+    if (name.startsWith('.')) {
+        return true;
+    }
+    const QByteArray folder = item.first(nameStart);
+    auto names = namesOfFolders_.constFind(folder);
+    if (names == namesOfFolders_.cend()) {
+        const QByteArrayList hidden = namesHiddenIn(folder);
+        names = namesOfFolders_.insert(folder, {hidden.cbegin(), hidden.cend()});
+    }
+    return names->contains(name);
+}
+
+bool isItemHidden(const QString& path) {
+    return HiddenItems().contains(path);
 }

@@ -6,3 +6,7 @@ bool isItemHidden(const QString& path) {
     // The file's own hidden flag, on this system.
     return QFileInfo(path).isHidden();
 }
+
+bool HiddenItems::contains(const QString& path) {
+    return isItemHidden(path);
+}

@@ -48,7 +48,7 @@ constexpr std::chrono::milliseconds unnoticed{100};
 constexpr std::chrono::milliseconds step{50};
 
 std::chrono::milliseconds patience = longestLine;
-std::function<void()> whileWaiting;
+std::vector<WhileWaiting*> waiting;
 int interruption = -1;
 
 /// Both ends are closed in the programs that are started, unless they are handed over.
@@ -128,23 +128,21 @@ Shell::Ending gather(const Pipe& pipe, QByteArray& bytes) {
     QElapsedTimer timer;
     timer.start();
     for (;;) {
-        pollfd waiting[] = {{pipe.reading(), POLLIN, 0}, {interruption, POLLIN, 0}};
+        pollfd ends[] = {{pipe.reading(), POLLIN, 0}, {interruption, POLLIN, 0}};
         const std::chrono::milliseconds elapsed(timer.elapsed());
         const bool longer = elapsed >= unnoticed;
-        poll(waiting, 2, static_cast<int>((longer ? step : unnoticed).count()));
-        if (waiting[0].revents != 0) {
+        poll(ends, 2, static_cast<int>((longer ? step : unnoticed).count()));
+        if (ends[0].revents != 0) {
             char buffer[4096];
             const ssize_t count = read(pipe.reading(), buffer, sizeof buffer);
             if (count == 0) {
                 return Shell::Ending::ByItself;
             }
             bytes.append(buffer, std::max<ssize_t>(count, 0));
-        } else if (waiting[1].revents != 0) {
-            return Shell::Ending::Interrupted;
         } else if (elapsed >= patience) {
             return Shell::Ending::TimeUp;
-        } else if (longer && whileWaiting) {
-            whileWaiting();
+        } else if (ends[1].revents != 0 || (longer && !WhileWaiting::work())) {
+            return Shell::Ending::Interrupted;
         }
     }
 }
@@ -218,8 +216,20 @@ bool Shell::isInterrupted() {
     return poll(&asked, 1, 0) > 0;
 }
 
-void Shell::setWhileWaiting(const std::function<void()>& work) {
-    whileWaiting = work;
+WhileWaiting::WhileWaiting(std::function<bool()> work) : work_(std::move(work)) {
+    waiting.push_back(this);
+}
+
+WhileWaiting::~WhileWaiting() {
+    std::erase(waiting, this);
+}
+
+bool WhileWaiting::work() {
+    bool goOn = true;
+    for (const WhileWaiting* entry : waiting) {
+        goOn = entry->work_() && goOn;
+    }
+    return goOn;
 }
 
 Shell::Ending Shell::run(const QString& commandLine) {

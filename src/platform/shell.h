@@ -39,6 +39,21 @@ public:
     static void setInterruption(int descriptor);
     /// Whether the program has been asked to end.
     static bool isInterrupted();
-    /// What is done while a line takes long, several times a second from a tenth of a second on.
-    static void setWhileWaiting(const std::function<void()>& work);
+};
+
+/// What is done while a command line takes long, several times a second from a tenth of a second
+/// on, for as long as this lives. Main thread only.
+class WhileWaiting final {
+public:
+    /// `work` returns whether to go on: false ends the line at once.
+    explicit WhileWaiting(std::function<bool()> work);
+    ~WhileWaiting();
+    WhileWaiting(const WhileWaiting&) = delete;
+    WhileWaiting& operator=(const WhileWaiting&) = delete;
+
+    /// Does the work of all that there are; false when one of them does not want to go on.
+    static bool work();
+
+private:
+    std::function<bool()> work_;
 };

@@ -9,6 +9,14 @@ SingleInstance::~SingleInstance() = default;
 
 void SingleInstance::listen() {}
 
-bool SingleInstance::activateFirst() {
+bool SingleInstance::waitForTurn(std::chrono::milliseconds /*longest*/) {
+    return true;
+}
+
+bool SingleInstance::activateFirst(const FileRequest& /*request*/) {
     return false;
+}
+
+std::optional<QStringList> SingleInstance::askFirst(const FileRequest& /*request*/) {
+    return std::nullopt;
 }

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMetaMethod>
 #include <QWidget>
 
@@ -14,9 +15,16 @@ bool isReadOnly(const QWidget* widget) {
     return readOnly.isValid() && readOnly.toBool();
 }
 
-// The text fields name these commands as their slots; of anything else none is asked, also where
-// it has one of them (a list can select all, but not copy).
+QStringList editCommands(const QWidget* widget) {
+    return widget->property("editCommands").toStringList();
+}
+
+// Of what is neither a text field nor names its commands none is asked, also where it has one of
+// them as a slot (a list can select all, but not copy).
 bool canPerform(const QWidget* widget, const QByteArray& command) {
+    if (widget != nullptr && editCommands(widget).contains(QLatin1String(command))) {
+        return true;
+    }
     if (widget == nullptr || widget->metaObject()->indexOfSlot("copy()") < 0) {
         return false;
     }
@@ -40,18 +48,33 @@ void perform(QWidget* widget, const QByteArray& command) {
 
 }  // namespace
 
-StandardActions::StandardActions(QObject* parent) : QObject(parent) {}
+StandardActions::StandardActions(QObject* parent) : QObject(parent) {
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        if (qobject_cast<QMenuBar*>(now) == nullptr) {
+            focus_ = now;
+        }
+    });
+}
+
+QWidget* StandardActions::performer(const QByteArray& command) const {
+    for (QWidget* widget = focus_; widget != nullptr; widget = widget->parentWidget()) {
+        if (editCommands(widget).contains(QLatin1String(command))) {
+            return widget;
+        }
+    }
+    return focus_;
+}
 
 void StandardActions::connectAction(QAction* action, const char* command, QMenu* menu) {
     const QByteArray name = command;
-    connect(action, &QAction::triggered, this, [name] {
-        QWidget* focus = QApplication::focusWidget();
-        if (canPerform(focus, name)) {
-            perform(focus, name);
+    connect(action, &QAction::triggered, this, [this, name] {
+        QWidget* const widget = performer(name);
+        if (canPerform(widget, name)) {
+            perform(widget, name);
         }
     });
     connect(menu, &QMenu::aboutToShow, action,
-            [action, name] { action->setEnabled(canPerform(QApplication::focusWidget(), name)); });
+            [this, action, name] { action->setEnabled(canPerform(performer(name), name)); });
     // Keys reach the command also while the menu is closed, whatever it last showed.
     connect(
         menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); },

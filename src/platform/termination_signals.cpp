@@ -13,8 +13,7 @@ constexpr int handledSignals[] = {SIGTERM, SIGINT, SIGHUP};
 int ends[2] = {-1, -1};
 
 extern "C" void reportSignal(int /*number*/) {
-    const char byte = 1;
-    [[maybe_unused]] const ssize_t written = write(ends[1], &byte, 1);
+    TerminationSignals::request();
 }
 
 }  // namespace
@@ -37,6 +36,11 @@ TerminationSignals::TerminationSignals(QObject* parent) : QObject(parent) {
     for (const int number : handledSignals) {
         sigaction(number, &action, nullptr);
     }
+}
+
+void TerminationSignals::request() {
+    const char byte = 1;
+    [[maybe_unused]] const ssize_t written = write(ends[1], &byte, 1);
 }
 
 int TerminationSignals::descriptor() const {

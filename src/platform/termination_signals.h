@@ -14,6 +14,9 @@ public:
     /// Becomes readable with the first of these signals; only to be looked at. -1 for none.
     int descriptor() const;
 
+    /// Does what such a signal does; nothing without an instance.
+    static void request();
+
 signals:
     void terminationRequested();
 };

@@ -1,5 +1,6 @@
 #include "preferences/rd_two_window_controller.h"
 
+#include <algorithm>
 #include <array>
 
 #include <QActionGroup>
@@ -68,6 +69,8 @@ std::unique_ptr<QWidget> RDTwoWindowController::loadWindow() {
     general_ = ui.general;
     general_->setText(Bundle::localizedString(QStringLiteral("General"), preferenceTable));
     general_->setIcon(Bundle::imageNamed(QStringLiteral("general")));
+    // A tool bar keeps its buttons from the keyboard.
+    ui.toobar->widgetForAction(general_)->setFocusPolicy(Qt::TabFocus);
     auto* panes = new QActionGroup(window.get());
     panes->addAction(general_);
     auto* close = new QShortcut(QKeySequence::Cancel, window.get());
@@ -84,25 +87,28 @@ void RDTwoWindowController::windowDidLoad() {
     test1();
     general_->setChecked(true);
     addBoxes();
+    generalView_->findChild<QCheckBox*>()->setFocus();
     window()->adjustSize();
 }
 
-// The frames in options() are the least sizes: a row keeps its place while font and language allow,
-// and pushes the others down otherwise.
+// The frames in options() are the least sizes: a box that the font makes higher grows around the
+// middle of its frame, and pushes those below it down only where they would touch.
 void RDTwoWindowController::addBoxes() {
     auto* rows = new QVBoxLayout(generalView_);
     rows->setContentsMargins(options().front().frame.x(), 0, 20, 0);
     rows->setSpacing(0);
-    int top = paneSize.height();
+    int top = 0;  // of the room that is left in the pane
     for (const Option& option : options()) {
         auto* box = new QCheckBox(
             Bundle::localizedString(QLatin1String(option.titleKey), preferenceTable), generalView_);
         box->setObjectName(preferenceName(option.preference));
         box->setMinimumSize(option.frame.size().expandedTo(box->sizeHint()));
-        rows->addSpacing(top - (option.frame.y() + option.frame.height()) -
-                         (box->sizeHint().height() - option.frame.height()) / 2);
+        const int height = box->minimumHeight();
+        const int given =
+            paneSize.height() - option.frame.y() - (option.frame.height() + height) / 2;
+        rows->addSpacing(std::max(0, given - top));
         rows->addWidget(box);
-        top = option.frame.y();
+        top = std::max(top, given) + height;
         connect(box, &QCheckBox::clicked, this,
                 [this, box, touch = option.touch] { (this->*touch)(box); });
         box->setChecked(preference(option.preference));

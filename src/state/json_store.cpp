@@ -13,13 +13,20 @@
 namespace {
 
 /// On the thread of the save. Null on success, or else the reason.
+/// An empty name of the backup leaves it as it is.
 QString saveSnapshot(const QString& file, const QString& backup, const StoreContents& snapshot) {
     QString reason = replaceStore(file, snapshot);
     // Only after the file itself, so that one of the two is good whatever happens to the other.
-    if (reason.isNull()) {
+    if (reason.isNull() && !backup.isEmpty()) {
         replaceStore(backup, snapshot);
     }
     return reason;
+}
+
+QString noGoodCopy() {
+    return UserDefaults::tr(
+        "The settings could not be read. They were kept as “%1”, and there "
+        "was no good copy to use instead.");
 }
 
 bool isItemList(const QVariant& value) {
@@ -119,15 +126,19 @@ void JsonStore::load() {
     } else {
         contents_ = std::move(copy.contents);
     }
-    if (copy.state == State::Damaged) {
-        setAside(backup_);  // the next save replaces it
-    }
+    backupIsDamaged_ = copy.state == State::Damaged;
     if (reading.state == State::Missing) {
         const QString reason = makeFolderOf(file_);
         if (!reason.isNull()) {
             saveProblem_ = UserDefaults::tr("The settings could not be saved: %1").arg(reason);
         } else if (copy.state == State::Good) {
             notice_ = UserDefaults::tr("The settings were missing; the last good copy is used.");
+            unsaved_ = true;
+            scheduleSave();
+        } else if (backupIsDamaged_) {
+            const std::optional<QString> aside = setAside(backup_);
+            backupIsDamaged_ = !aside;
+            notice_ = noGoodCopy().arg(aside.value_or(backup_));
             unsaved_ = true;
             scheduleSave();
         }
@@ -137,14 +148,11 @@ void JsonStore::load() {
 }
 
 void JsonStore::replaceDamaged(StoreReading::State copy) {
-    noticeOnceAside_ =
-        copy == StoreReading::State::Good
-            ? UserDefaults::tr(
-                  "The settings could not be read. They were kept as “%1”, and the "
-                  "last good copy is used.")
-            : UserDefaults::tr(
-                  "The settings could not be read. They were kept as “%1”, and there "
-                  "was no good copy to use instead.");
+    noticeOnceAside_ = copy == StoreReading::State::Good
+                           ? UserDefaults::tr(
+                                 "The settings could not be read. They were kept as “%1”, and the "
+                                 "last good copy is used.")
+                           : noGoodCopy();
     // At once, for the next start must find the file good again.
     unsaved_ = true;
     if (keepOldFile()) {
@@ -192,8 +200,11 @@ void JsonStore::startSave() {
         return;
     }
     unsaved_ = false;
-    const auto save = [this, number = ++saveNumber_, file = file_, backup = backup_,
-                       snapshot = contents_] {
+    if (backupIsDamaged_) {
+        backupIsDamaged_ = !setAside(backup_);
+    }
+    const auto save = [this, number = ++saveNumber_, file = file_,
+                       backup = backupIsDamaged_ ? QString() : backup_, snapshot = contents_] {
         QString reason = saveSnapshot(file, backup, snapshot);
         emit saveEnded(number);
         return reason;

@@ -55,6 +55,8 @@ private:
     // When not empty, the file holds something that no save may replace before it was set aside;
     // the text then tells so, with a place for the new name.
     QString noticeOnceAside_;
+    // The same of the backup, of which nothing need be told: no save needs it.
+    bool backupIsDamaged_ = false;
     QString notice_;
     QString saveProblem_;
 };

@@ -11,6 +11,12 @@ QString storedPassword() {
     return stored.typeId() == QMetaType::QString ? stored.toString() : QString();
 }
 
+bool isProtected() {
+    return !storedPassword().isEmpty() &&
+           integerReading(UserDefaults::standardUserDefaults().objectForKey(requirePasswordKey)) ==
+               1;
+}
+
 QString preferenceName(Preference preference) {
     switch (preference) {
         case Preference::MakeVisibleAtLaunch:

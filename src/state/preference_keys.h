@@ -13,6 +13,8 @@ inline constexpr QLatin1StringView missingItemsKey{"missingItems"};
 /// The stored password; null when none is stored (anything but a text is none), which is not the
 /// same as empty.
 QString storedPassword();
+/// Whether the stored list is locked: a password is stored, and protection is on.
+bool isProtected();
 
 /// The four boolean preferences, all off when absent. Their keys go through a localisation table.
 enum class Preference {

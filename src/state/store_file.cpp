@@ -53,6 +53,9 @@ bool writeAll(int descriptor, const char* bytes, std::size_t count) {
         if (written < 0 && errno == EINTR) {
             continue;
         }
+        if (written == 0) {
+            errno = ENOSPC;  // which no error was told for
+        }
         if (written <= 0) {
             return false;
         }
@@ -176,6 +179,12 @@ QString replaceStore(const QString& file, const StoreContents& contents) {
     const QByteArray target = QFile::encodeName(linkTarget(file));
     if (QString reason = makeFolderOf(file); !reason.isNull()) {
         return reason;
+    }
+    // One whose end could not be found out must not be replaced by a file.
+    struct stat status {};
+    errno = ELOOP;
+    if (::lstat(target.constData(), &status) == 0 ? S_ISLNK(status.st_mode) : errno != ENOENT) {
+        return lastError();
     }
     makePrivate(folderOf(file));
     QByteArray temporary = target + temporaryInfix.latin1() + "XXXXXX";

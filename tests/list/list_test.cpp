@@ -1,29 +1,27 @@
+#include <QClipboard>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
 
+#include "controls/looks.h"
 #include "controls/pane_button.h"
 #include "list/drag_drop_view.h"
-#include "platform/application.h"
-#include "platform/bundle.h"
-#include "platform/geometry.h"
-#include "platform/notification_center.h"
-#include "sandbox.h"
 #include "state/preference_keys.h"
+#include "window.h"
 
 /// The list view with its header, rows and drops, driven through real events.
 class ListTest final : public QObject {
     Q_OBJECT
 
 private:
-    struct Fixture {
-        explicit Fixture(const QStringList& names) : paths(sandbox.makeFiles(names)) {
-            sandbox.storeList(paths);
+    struct Fixture : Stored {
+        explicit Fixture(const QStringList& names) : Stored(names) {
             view.resize(400, 400);
             view.setDelegate(&delegate);
             view.setCanDragDrop(true);
-            view.setFileLists(sandbox.defaults().itemList());
+            view.setFileLists(defaults().itemList());
             view.topViw()->activateLeftButton();
             view.selectTableViewCellForRowIndex(0);
             view.show();
@@ -36,39 +34,31 @@ private:
         }
         void hover(int row, int x) {
             const QPoint at = inRow(row, x);
-            QMouseEvent move(QEvent::MouseMove, at, table()->viewport()->mapToGlobal(at),
-                             Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+            QMouseEvent move(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, {});
             QCoreApplication::sendEvent(table()->viewport(), &move);
         }
-        QString shown() { return Sandbox::describe(view.fileLists().value_or(ItemList())); }
+        QString shown() { return describe(view.fileLists().value()); }
 
-        Sandbox sandbox;
         RecordingDelegate delegate;
-        QStringList paths;
         DragDropView view;
     };
 
 private slots:
-    void initTestCase() { Bundle::loadTranslations(); }
-
-    void reportsTheRowThatIsChosen() {
-        Fixture f({"a", "b", "c"});
-        f.click(1);
-        QCOMPARE(f.delegate.take(), QStringList{"b"});
-        f.click(1);  // nothing changes, nothing is reported
-        QCOMPARE(f.delegate.take(), QStringList());
-        QTest::keyClick(f.table(), Qt::Key_End);
-        f.click(6);  // below the last row
-        QCOMPARE(f.delegate.take(), QStringList({"c", "a"}));
-        QCOMPARE(f.view.selectRowIndex(), 0);
-
-        f.view.selectTableViewCellForRowIndex(9);  // unchecked, and not reported
-        QCOMPARE(f.view.selectRowIndex(), 9);
-        f.view.addFileList({});
-        QCOMPARE(f.delegate.take(), QStringList({"c", "c"}));
-        f.view.addFileList({ItemRecord::forPath(f.paths.first(), VisibleForm::NumberOne)});
-        QCOMPARE(f.delegate.take(), QStringList({"a", "a"}));
-        QCOMPARE(f.sandbox.stored(), QString("a:\"1\" b:\"1\" c:\"1\" a:1"));
+    void showsWhereADragLands() {
+        Fixture f({"a", "b"});
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile("/a")});
+        for (const bool can : {true, false}) {
+            f.view.setCanDragDrop(can);
+            QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, {});
+            QCoreApplication::sendEvent(&f.view, &enter);
+            const QImage picture = f.table()->viewport()->grab().toImage();
+            const QColor expected = can ? focusColor : Qt::white;
+            QCOMPARE(picture.pixelColor(f.inRow(2) - QPoint(0, 19)), expected);
+            QCOMPARE(picture.pixelColor(1, 300), expected);
+            QDragLeaveEvent leave;
+            QCoreApplication::sendEvent(&f.view, &leave);
+        }
     }
 
     void reportsRemovalsOnlyWhereTheCurrentRowIsConcerned() {
@@ -77,10 +67,10 @@ private slots:
             f.view.selectTableViewCellForRowIndex(current);
             f.delegate.take();
             f.hover(removed, 380);
-            f.sandbox.log();
+            f.log();
             const QString path = f.view.fileLists()->at(removed).filePath();
             QTest::mouseClick(f.table()->deletedButton(), Qt::LeftButton);
-            return f.sandbox.log() == QStringList{"delated:" + path}
+            return f.log() == QStringList{"delated:" + path}
                        ? f.delegate.take().join(u' ') + QString::number(f.view.selectRowIndex())
                        : "not logged";
         };
@@ -89,9 +79,35 @@ private slots:
         QCOMPARE(remove(2, 0), QString("2"));   // before the current row
         QCOMPARE(remove(0, 2), QString("0"));   // behind it
         QCOMPARE(remove(1, 1), QString("0"));   // the current row, which is the last
-        QCOMPARE(f.sandbox.stored(), QString("c:\"1\""));
+        QCOMPARE(f.stored(), QString("c:\"1\""));
         QCOMPARE(remove(0, 0), QString("nil-1"));
-        QCOMPARE(f.sandbox.stored(), QString());
+        QCOMPARE(f.stored(), QString());
+    }
+
+    void choosesNoRowInTheUsersPlace() {
+        Fixture f({"a", "b", "c", "d"});
+        const auto removeLast = [&f] {
+            f.view.selectTableViewCellForRowIndex(static_cast<int>(f.view.count()) - 1);
+            f.view.removeCurrentRecord();
+            f.delegate.take();
+        };
+        removeLast();
+        f.click(2);
+        f.click(2);  // nothing changes, nothing is reported
+        QCOMPARE(f.delegate.take(), QStringList{"c"});
+        f.click(6);
+        removeLast();
+        drop(f.view, {f.makeFile("e")});
+        QCOMPARE(f.delegate.take(), QStringList{"a"});
+        f.click(1);
+        QTest::mouseClick(f.table()->viewport(), Qt::RightButton, {}, f.inRow(6));
+        QCOMPARE(f.delegate.take(), QStringList{"b"});
+
+        QSignalSpy opened(f.table(), &DragDropTableView::doubleAction);
+        f.hover(0, 390);
+        QTest::mouseClick(f.table()->deletedButton(), Qt::LeftButton);
+        QTest::mouseDClick(f.table()->viewport(), Qt::LeftButton, {}, f.inRow(0, 390));
+        QCOMPARE(opened.count(), 0);
     }
 
     void hoverOffersWhatTheItemAllows() {
@@ -110,7 +126,7 @@ private slots:
         QVERIFY(!f.table()->deletedButton()->isVisible());
     }
 
-    void sortsByTitleFromBothButtonsWithoutStoring() {
+    void sortsByTitleFromBothButtons() {
         Fixture f({"b", "C", "a"});
         TopView* header = f.view.topViw();
         QTest::mouseClick(header->leftButton(), Qt::LeftButton);  // active: flips to ascending
@@ -118,42 +134,26 @@ private slots:
         QTest::mouseClick(header->rightButton(), Qt::LeftButton);  // inactive: does not flip
         QCOMPARE(f.shown(), QString("b:\"1\" a:\"1\" C:\"1\""));
         QVERIFY(header->leftButton()->isPaixuImageHidden());
-        QTest::mouseClick(header->rightButton(), Qt::LeftButton);
-        QVERIFY(header->rightButton()->on());
         QCOMPARE(f.delegate.take(), QStringList());
-        QCOMPARE(f.sandbox.stored(), QString("b:\"1\" C:\"1\" a:\"1\""));
-        drop(f.view, {f.sandbox.makeFile("d")});  // any write carries the order
-        QCOMPARE(f.sandbox.stored(), QString("C:\"1\" a:\"1\" b:\"1\" d:\"1\""));
-        QCOMPARE(fromBottomLeft({0, 1, 80, 30}, 30), QRect(0, -1, 80, 30));
     }
 
     void takesDrops() {
         Fixture f({"a", "b", "c"});
-        f.click(1);
-        f.delegate.take();
-        const QStringList fresh = f.sandbox.makeFiles({"d", "e"});
-        f.sandbox.log();
-        drop(f.view, {fresh.at(0), fresh.at(1), fresh.at(1), f.sandbox.folder() + "/files/"});
-        QCOMPARE(f.sandbox.stored(),
-                 QString("a:\"1\" b:\"1\" c:\"1\" d:\"1\" e:\"1\" files:\"1\""));
-        QVERIFY(f.sandbox.log().first().startsWith(">>> ({filePath = "));
-        QCOMPARE(f.delegate.take(), QStringList{"b"});  // the table's selection survives
-        QCOMPARE(f.view.selectRowIndex(), 1);
-
-        f.view.setCanDragDrop(false);
-        drop(f.view, {f.sandbox.makeFile("f")});
-        f.view.setCanDragDrop(true);
+        const QStringList fresh = f.makeFiles({"d", "e"});
+        f.log();
+        drop(f.view, {fresh.at(0), fresh.at(1), fresh.at(1), f.folder() + "/files/"});
+        QCOMPARE(f.stored(), QString("a:\"1\" b:\"1\" c:\"1\" d:\"1\" e:\"1\" files:\"1\""));
+        QVERIFY(f.log().first().startsWith(">>> ({filePath = "));
         QMimeData promised;
         promised.setData("application/x-promise", "f");
         QVERIFY(f.view.prepareForDragOperation(&promised));
         QCOMPARE(f.view.draggingEntered(&promised), Qt::CopyAction);
         QCOMPARE(f.view.count(), 6);
-        QCOMPARE(f.delegate.take(), QStringList());
     }
 
     void refusesAddressesThatAreNoPlacesHere() {
         Fixture f({"a"});
-        QSignalSpy refused(&f.view, &DragDropView::dropRefused);
+        QSignalSpy refused(&f.view, &DragDropView::happened);
         QMimeData odd;
         odd.setData("text/uri-list",
                     "file:///tmp/cut%00short\r\nfile:relative\r\nfile:~/x\r\n"
@@ -161,43 +161,45 @@ private slots:
         QVERIFY(f.view.prepareForDragOperation(&odd));
         QCOMPARE(f.view.count(), 1);
         QVERIFY(!refused.at(0).at(0).toString().isEmpty());
-        drop(f.view, {f.sandbox.makeFile("b")});
-        QCOMPARE(f.sandbox.stored(), QString("a:\"1\" b:\"1\""));
+        drop(f.view, {f.makeFile("b")});
+        QCOMPARE(f.stored(), QString("a:\"1\" b:\"1\""));
         QCOMPARE(refused.at(1).at(0).toString(), QString());
     }
 
-    void failsOnADropOfAPathWithRecordsBehindIt() {
-        Fixture f({"a", "b", "c"});
-        f.view.addFileList({ItemRecord::forPath(f.paths.at(0), VisibleForm::StringOne)});
-        f.delegate.take();
-        const QString before = f.sandbox.stored();
-        f.sandbox.log();
-        QSignalSpy reported(qApp, SIGNAL(exceptionReported()));
-        drop(f.view, {f.sandbox.makeFile("d"), f.paths.at(0), f.sandbox.makeFile("e")});
-        QCOMPARE(f.shown(), QString("b:\"1\" c:\"1\" d:\"1\""));  // every equal record is gone
-        QCOMPARE(f.sandbox.stored(), before);
-        QCOMPARE(f.delegate.take(), QStringList());
-        QVERIFY(f.sandbox.log().join(u'\n').contains("uncaught exception"));
-        QTRY_COMPARE(reported.count(), 1);
-        drop(f.view, {f.sandbox.folder() + "/files/d"});  // the last one: replaced
-        QCOMPARE(f.sandbox.stored(), QString("b:\"1\" c:\"1\" d:\"1\""));
+    void copiesAndPastesByTheRulesOfADrop() {
+        Fixture f({"a b", "c"});
+        f.view.setCanDragDrop(false);
+        f.view.copy();
+        QCOMPARE(f.view.editCommands(), QStringList{"copy"});
+        const QMimeData* copied = QGuiApplication::clipboard()->mimeData();
+        QCOMPARE(copied->text(), f.paths.at(0));
+        QCOMPARE(copied->data("x-special/gnome-copied-files"),
+                 "copy\n" + copied->urls().at(0).toEncoded());
+        for (const int left : {2, 1, 2}) {  // closed; listed with another behind it; not listed
+            f.view.paste();
+            QCoreApplication::processEvents();
+            QCOMPARE(f.view.count(), left);
+            f.view.setCanDragDrop(true);
+            QCOMPARE(f.view.editCommands(), QStringList({"copy", "paste"}));
+        }
     }
 
-    void fillsInTheColumnsOfATableFromAnInterfaceFile() {
-        DragDropTableView table;
-        table.tableColumns().append(TableColumn());
-        table.initWithInterfaceFile();
-        QCOMPARE(table.tableColumns().size(), 2);
-        QCOMPARE(table.tableColumns().first().width, 265);
-        QCOMPARE(table.tableColumns().last().identifier, QString("2"));
-        QCOMPARE(table.tableColumns().last().title, QString("statues"));
+    void paintsWhatTurnsTheDirectionOfWriting() {
+        const auto painted = [](const QString& title) {
+            ListCell cell;
+            cell.setCellTitle(title);
+            QImage picture(300, 40, QImage::Format_RGB32);
+            QPainter painter(&picture);
+            cell.drawRect(painter, picture.rect());
+            return picture;
+        };
+        QCOMPARE(painted("a\u202Eb\n\u2066"), painted("a<U+202E>b <U+2066>"));
+        QVERIFY(painted("a\u202Eb") != painted("ab"));
     }
 };
 
 int main(int argc, char** argv) {
-    Application application(argc, argv);
-    ListTest test;
-    return QTest::qExec(&test, argc, argv);
+    return run<ListTest>(argc, argv);
 }
 
 #include "list_test.moc"

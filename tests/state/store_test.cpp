@@ -1,15 +1,23 @@
-#include "store_test.h"
-
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
 #include <limits>
+#include <memory>
 
+#include <QDir>
+#include <QFile>
 #include <QScopeGuard>
 #include <QSemaphore>
 #include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
 
+#include "lists.h"
 #include "state/preference_keys.h"
+#include "state/store_file.h"
 #include "state/stored_value.h"
 #include "state/user_defaults.h"
 
@@ -19,6 +27,22 @@ std::atomic<int> syncs;        // a save makes four: of both files, each with it
 std::atomic<bool> saveIsHeld;  // until the gate is opened
 QSemaphore gate;
 constexpr int longestHold = 10'000;  // milliseconds, for a save that the caller waits for
+
+mode_t modeOf(const QString& file) {
+    struct stat status {};
+    ::stat(QFile::encodeName(file).constData(), &status);
+    return status.st_mode & 0777U;
+}
+
+QByteArray read(const QString& file) {
+    QFile input(file);
+    return input.open(QIODevice::ReadOnly) ? input.readAll() : QByteArray();
+}
+
+void write(const QString& file, const QByteArray& bytes) {
+    QFile output(file);
+    QVERIFY(output.open(QIODevice::WriteOnly) && output.write(bytes) == bytes.size());
+}
 
 }  // namespace
 
@@ -31,10 +55,29 @@ extern "C" int fsync(int) {
     return 0;
 }
 
-class StoreTest final : public StoreFolder {
+class StoreTest final : public QObject {
     Q_OBJECT
 
+private:
+    /// Names in the folder other than the file and its backup.
+    QStringList otherFiles() const {
+        QStringList names =
+            QDir(folder_->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        names.removeAll("defaults.json");
+        names.removeAll("defaults.json.bak");
+        return names;
+    }
+
+    std::unique_ptr<QTemporaryDir> folder_;
+    QString file_;
+
 private slots:
+    void init() {
+        folder_ = std::make_unique<QTemporaryDir>();
+        file_ = folder_->filePath("defaults.json");
+    }
+    void cleanup() { folder_.reset(); }
+
     void everyTypeStaysItself() {
         const QVariant null = QVariant::fromValue(nullptr);
         const auto values = QVariantList()
@@ -47,11 +90,7 @@ private slots:
                             << QVariantMap{{"", QVariantList{false, "1", null}}};
         const QVariantList records{
             QVariantMap{{"filePath", "/a/b"}, {"fileTitle", "b"}, {"visible", 1}},
-            QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "c"}, {"visible", "0"}},
-            QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "x"}, {"visible", "0"}},
-            QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "c"}, {"visible", true}},
-            QVariantMap{{"fileTitle", "x"}, {"more", QVariantMap{{"a", QVariantList{2}}}}},
-            "text"};
+            QVariantMap{{"filePath", "/a/c"}, {"fileTitle", "x"}, {"visible", "0"}}, "text"};
         {
             UserDefaults defaults(file_);
             defaults.setItemList(std::nullopt);
@@ -116,60 +155,100 @@ private slots:
     }
 
     void unchangedContentIsNotWritten() {
-        {
-            UserDefaults defaults(file_);
-            defaults.setItemList(listOf(1000, "item"));
-            defaults.setObject(1, "one");
+        const QList<std::pair<QVariant, int>> steps{{1, 4}, {1, 0}, {true, 4}};
+        for (const auto& [one, wanted] : steps) {
+            syncs = 0;
+            {
+                UserDefaults defaults(file_);
+                defaults.setItemList(listOf(1000, "item"));
+                defaults.setObject(one, "one");
+            }
+            QCOMPARE(syncs, wanted);
         }
-        syncs = 0;
-        {
-            UserDefaults defaults(file_);
-            defaults.setItemList(listOf(1000, "item"));
-            defaults.setObject(1, "one");
-        }
-        QCOMPARE(syncs, 0);
-        UserDefaults(file_).setObject(true, "one");
-        QCOMPARE(syncs, 4);
     }
 
     void oddContentIsKept() {
-        write(
-            file_,
-            " {\"password\": 5, \"later\": [null, {\"a\": 1e2, \"b\": 18446744073709551615901.0}],"
-            " \"twice\": 1, \"twice\": 2,"
-            "\"fileListView_List\": \"no\", \"fileListView_List\": ["
-            "{\"filePath\": \"/a\", \"visible\": [], \"visible\": \"1\", \"filePath\": 3},"
-            "{\"visible\": \"0\", \"fileTitle\": \"z\", \"filePath\": \"/y\\/z\"}, [{}], 7]}\n");
+        write(file_, R"( {"password": 5, "big": [null, 1e2, 18446744073709551615901.0],
+            "fileListView_List": "no", "fileListView_List": [
+            {"visible": [], "fileTitle": "z", "filePath": "/y\/z", "visible": "0"}, [{}], 7]})");
         {
             UserDefaults defaults(file_);
-            QCOMPARE(defaults.problem(), QString());
-            QCOMPARE(defaults.itemList()->at(0).filePath(), QString());
-            QCOMPARE(defaults.itemList()->at(1).ordinaryForm(), VisibleForm::StringZero);
+            QVERIFY(defaults.problem().isEmpty() && defaults.itemList()->at(0).ordinaryForm());
             defaults.setObject("1", requirePasswordKey);
         }
-        QCOMPARE(read(file_),
-                 "{\"fileListView_List\":[{\"filePath\":3,\"visible\":\"1\"},"
-                 "{\"filePath\":\"/y/z\",\"fileTitle\":\"z\",\"visible\":\"0\"},[{}],7],"
-                 "\"later\":[null,{\"a\":100.0,\"b\":1.8446744073709552e22}],\"password\":5,"
-                 "\"requirePassword\":\"1\",\"twice\":2}");
+        QCOMPARE(read(file_), R"({"big":[null,100.0,1.8446744073709552e22],"fileListView_List":[)"
+                              R"({"filePath":"/y/z","fileTitle":"z","visible":"0"},[{}],7],)"
+                              R"("password":5,"requirePassword":"1"})");
     }
 
     void listOfAnotherTypeIsSetAsideBeforeItIsReplaced() {
         const QByteArray odd = R"({"fileListView_List":{"filePath":"/a"}})";
         write(file_, odd);
         UserDefaults defaults(file_);
-        QVERIFY(!defaults.itemList());
         defaults.setObject("x", "other");
-        QVERIFY(defaults.synchronize());
-        QCOMPARE(otherFiles(), QStringList());
+        QVERIFY(!defaults.itemList() && defaults.synchronize() && otherFiles().isEmpty());
         const QSignalSpy told(&defaults, &UserDefaults::problemChanged);
         defaults.setItemList(listOf(1, "item"));
         QVERIFY(defaults.synchronize());
         QCOMPARE(otherFiles().size(), 1);
         QVERIFY(read(folder_->filePath(otherFiles().first())).startsWith(odd.chopped(1)));
-        QCOMPARE(told.size(), 1);
-        QVERIFY(defaults.problem().contains(otherFiles().first()));
-        QCOMPARE(UserDefaults(file_).itemList()->size(), 1);
+        QVERIFY(told.size() == 1 && defaults.problem().contains(otherFiles().first()));
+    }
+
+    void unreadableStoreIsLeftAlone_data() {
+        QTest::addColumn<QString>("closed");
+        // The link is one to a disk that is not there.
+        for (const char* closed : {"defaults.json", "defaults.json.bak", ".", "link"}) {
+            QTest::newRow(closed) << closed;
+        }
+    }
+    void unreadableStoreIsLeftAlone() {
+        QFETCH(const QString, closed);
+        const bool linked = closed == "link";
+        const bool damaged = closed.endsWith(".bak");
+        const bool root = ::geteuid() == 0;  // to whom nothing is closed
+        QVERIFY(!root || ::seteuid(65534) == 0);
+        const auto back = qScopeGuard([root] { QVERIFY(!root || ::seteuid(0) == 0); });
+        const QTemporaryDir folder;
+        const QString disk = folder.filePath("disk");
+        QVERIFY(QDir().mkdir(disk) && QFile::link(disk, folder.filePath("link")));
+        const QString file = folder.filePath(linked ? "link/defaults.json" : "defaults.json");
+        write(file, damaged ? "{" : R"({"password":"old"})");
+        write(file + ".bak", R"({"password":"copy"})");
+        const QByteArray path = QFile::encodeName(QDir::cleanPath(folder.filePath(closed)));
+        QVERIFY(linked ? QFile::rename(disk, disk + "2") : ::chmod(path.constData(), 0) == 0);
+        UserDefaults defaults(file);
+        const QSignalSpy told(&defaults, &UserDefaults::problemChanged);
+        QVERIFY(!defaults.isRead() && defaults.problem().contains("cannot be read"));
+        defaults.setObject("new", passwordKey);
+        QVERIFY(!defaults.objectForKey(passwordKey).isValid());
+        QVERIFY(defaults.synchronize() && !defaults.readAgain());
+        QVERIFY(linked ? QFile::rename(disk + "2", disk) : ::chmod(path.constData(), 0700) == 0);
+        QVERIFY(defaults.readAgain() && !told.isEmpty());
+        QCOMPARE(defaults.objectForKey(passwordKey), damaged ? "copy" : "old");
+        defaults.setObject("new", passwordKey);
+        QVERIFY(defaults.synchronize());
+        QCOMPARE(readStore(file).contents.value(passwordKey), "new");
+    }
+
+    void whatIsNoOrdinaryFileIsNotTouched() {
+        QVERIFY(::mkfifo(QFile::encodeName(file_).constData(), S_IRWXU) == 0);
+        UserDefaults defaults(file_);
+        QVERIFY(!defaults.synchronize() && !defaults.problem().isEmpty());
+        QVERIFY(!QFileInfo(file_).isFile());
+    }
+
+    void deadTemporariesAreRemoved() {
+        for (const char* name :
+             {".new-Abc123", ".bak.new-Abc123", ".new-alive0", ".newer", ".2020"}) {
+            write(file_ + name, "x");
+        }
+        const int alive = ::open(QFile::encodeName(file_ + ".new-alive0").constData(), O_RDWR);
+        const auto close = qScopeGuard([alive] { ::close(alive); });
+        QVERIFY(::flock(alive, LOCK_EX) == 0);
+        const UserDefaults defaults(file_);
+        QCOMPARE(otherFiles(), QStringList({"defaults.json.2020", "defaults.json.new-alive0",
+                                            "defaults.json.newer"}));
     }
 };
 

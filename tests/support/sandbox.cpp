@@ -35,7 +35,7 @@ Sandbox::Sandbox() {
     // Takes the items as they come, and shows them once they are whole.
     writeScript(folder() + QStringLiteral("/commands/refresh"),
                 QStringLiteral("#!/bin/sh\n{ for path; do echo \"$path\"; done; tr '\\0' '\\n'; } "
-                               ">'%1/telling' && mv '%1/telling' '%1/told'\n")
+                               ">'%1/telling'$$ && mv '%1/telling'$$ '%1/told'\n")
                     .arg(folder()));
     Shell::setCompanionsFolder(folder() + QStringLiteral("/commands"));
     defaults_ = std::make_unique<UserDefaults>(UserDefaults::standardFile());
@@ -48,10 +48,11 @@ Sandbox::~Sandbox() {
 }
 
 void Sandbox::setCommand(const QString& name, const QString& script) const {
-    writeScript(folder() + QStringLiteral("/commands/") + name,
-                QStringLiteral("#!/bin/sh\n(printf %2; printf '|%s' \"$@\"; echo) >>'%1/record'\n")
-                        .arg(folder(), name) +
-                    script);
+    writeScript(
+        folder() + QStringLiteral("/commands/") + name,
+        QStringLiteral("#!/bin/sh\n{ printf %2; printf '|%s' \"$@\"; echo; } >>'%1/record'\n")
+                .arg(folder(), name) +
+            script);
 }
 
 QString Sandbox::makeFile(const QString& name) const {

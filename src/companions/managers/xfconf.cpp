@@ -2,7 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -48,7 +48,9 @@ std::optional<bool> Xfconf::valueInFiles() const {
     }
     for (const auto& folder : folders) {
         std::ifstream stream(folder / "xfce4/xfconf/xfce-perchannel-xml" / (channel_ + ".xml"));
-        const std::string content(std::istreambuf_iterator<char>(stream), {});
+        std::ostringstream read;
+        read << stream.rdbuf();  // which does not throw when there is a folder of that name
+        const std::string content = read.str();
         // Written by the daemon alone, always in this one form.
         const auto start = content.find("<property name=\"" + property_ + "\" type=\"bool\"");
         if (start != std::string::npos) {

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <map>
 #include <string_view>
+#include <thread>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -36,9 +37,11 @@ void raiseAttributeEvent(const std::filesystem::path& item) {
 }
 
 /// What KDE's programs, file dialogs included, listen to.
-void tellKde(const Bus& session, const Folder& folder) {
-    session.emit("/", "org.kde.KDirNotify", "FilesAdded",
-                 g_variant_new("(s)", folder.uri().c_str()));
+void tellKde(const Bus& session, const Folders& folders) {
+    for (const auto& folder : folders) {
+        session.emit("/", "org.kde.KDirNotify", "FilesAdded",
+                     g_variant_new("(s)", folder.uri().c_str()));
+    }
 }
 
 bool mayShow(const std::string& title, const Folders& folders) {
@@ -129,9 +132,7 @@ std::vector<Unreached> refreshWindows(const Items& items, bool onlyWrong) {
     if (!session) {
         return {};
     }
-    for (const auto& folder : folders) {
-        tellKde(*session, folder);
-    }
+    tellKde(*session, folders);
     const auto names = session->names();
     const auto runs = [&names](std::string_view name) {
         return std::find(names.begin(), names.end(), name) != names.end();
@@ -152,6 +153,13 @@ std::vector<Unreached> refreshWindows(const Items& items, bool onlyWrong) {
     }
     if (runs(Thunar::service) && !refreshThunar(Thunar(*session), folders)) {
         missed.push_back({"Thunar", "Ctrl+H"});
+    }
+    // Dolphin takes an item for visible some seconds after its attributes changed, unless it reads
+    // the folder in between or later. Right after a change `.hidden` was replaced, which has it do
+    // so.
+    if (onlyWrong) {
+        std::this_thread::sleep_for(1s);
+        tellKde(*session, folders);
     }
     return missed;
 }
