@@ -113,6 +113,9 @@ class Browser(Application):
 class FileManagers(Story):
     def open(self, manager):
         home = self.home
+        # Without this cache, the accessibility library can wait for itself when a GTK 3 program
+        # announces what is new in it.
+        desktop.pyatspi.Registry.getDesktop(0).set_cache_mask(desktop.pyatspi.Atspi.Cache.STATES)
         if manager.program == "pcmanfm":  # GTK 2
             home.environment["GTK_MODULES"] = "gail:atk-bridge"
         for last in False, True:  # Nautilus 43 was seen to load its first folder without end
@@ -146,12 +149,15 @@ class FileManagers(Story):
         write_row(manager, cells)
         print(manager.name, *cells, sep=" | ")
 
+    def setUp(self):
+        super().setUp()
+        os.environ.update({name: value for name, value in self.home.environment.items()
+                           if name.startswith("XDG_") or name == "HOME"})
+        subprocess.run(["dbus-update-activation-environment", "--all"], check=True)
+
     def see(self, manager):
         """The cells of the row: opening, hide, show, reset, reveal."""
         home = self.home
-        os.environ.update({name: value for name, value in home.environment.items()
-                           if name.startswith("XDG_") or name == "HOME"})
-        subprocess.run(["dbus-update-activation-environment", "--all"], check=True)
         folder, aside = home.folder / "velmora-sample", home.folder / "aside"
         for path in folder / ITEM, folder / OTHER, folder / DOT, aside / REVEALED:
             path.parent.mkdir(exist_ok=True)
@@ -159,11 +165,7 @@ class FileManagers(Story):
         home.seed(str(folder / ITEM), str(aside / REVEALED))
         self.velmora = self.start()
         self.velmora.place(700, 30, 680, 500)
-        # Without this cache, the accessibility library can wait for itself when a GTK 3 program
-        # announces what is new in it.
-        cache = desktop.pyatspi.Atspi.Cache
-        self.velmora.tree.set_cache_mask(cache.NONE)
-        desktop.pyatspi.Registry.getDesktop(0).set_cache_mask(cache.STATES)
+        self.velmora.tree.set_cache_mask(desktop.pyatspi.Atspi.Cache.NONE)
         self.press(shown=False)
         if not manager.windows:
             file("config/pcmanfm/default/pcmanfm.conf", "[ui]\nview_mode=list\n")(home)
@@ -194,6 +196,8 @@ class FileManagers(Story):
         start = self.press(shown=False)
         hide = browser.until(5, item=False, dot=False) - start  # by the first telling
         reveal = self.reveal(manager, browser)
+        time.sleep(MEMORY)  # for as long as it is told again
+        browser.until(1, item=False, dot=False)
         self.assertEqual(self.read_setting(), "NO")
         browser.quit()
         self.assertEqual(self.read_setting(), "NO")
