@@ -4,6 +4,7 @@
 // socket: what is done so far comes in as "DONE\tNAME\0", one byte goes back when the user wants
 // the pass to stop, and the end of the input is the end of the window.
 
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -21,6 +22,7 @@
 namespace {
 
 constexpr int shortestShowing = 400;  // milliseconds; less is a flash
+constexpr int behindThePass = 10;     // of the 20 steps in which a program can give way to others
 
 /// What comes in, and what the window is to do about it.
 class Follower final : public QObject {
@@ -78,6 +80,7 @@ void putAbove(QWidget& dialog, WId window) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    setpriority(PRIO_PROCESS, 0, behindThePass);
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const int total = arguments.value(2).toInt();
