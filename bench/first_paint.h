@@ -10,7 +10,7 @@
 
 /// Tells on standard output, in nanoseconds of the monotonic clock, when the first main window of
 /// this process was painted and handed to the display. Ends the process then, unless it is to stay
-/// for its memory to be looked at ("--stay" among the arguments).
+/// for its memory to be looked at (STAY in the environment).
 class FirstPaint final : public QObject {
 public:
     FirstPaint() { QCoreApplication::instance()->installEventFilter(this); }
@@ -30,7 +30,7 @@ protected:
         const std::chrono::nanoseconds now = std::chrono::steady_clock::now().time_since_epoch();
         std::printf("%lld\n", static_cast<long long>(now.count()));
         std::fflush(stdout);
-        if (!QCoreApplication::arguments().contains(QStringLiteral("--stay"))) {
+        if (!qEnvironmentVariableIsSet("STAY")) {
             _exit(0);
         }
     }

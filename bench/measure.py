@@ -109,7 +109,7 @@ class Bench:
 
     def resident(self, program):
         """MB that a program has in memory once that has stopped changing."""
-        process = self.place.start(BIN / program, "--stay")
+        process = self.place.start("env", "STAY=1", BIN / program)
         process.stdout.readline()
         last, now = None, 0
         while now != last:
