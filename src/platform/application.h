@@ -4,8 +4,8 @@
 
 class QEventLoop;
 
-/// The application object: the platform's event loop with its three habits that the program
-/// relies on (exceptions that leave a handler are reported, windows run modally until somebody
+/// The application object: the platform's event loop with three behaviours that the program relies
+/// on (exceptions that leave a handler are reported, windows run modally until somebody
 /// stops the modal loop, terminating ends every loop).
 class Application final : public QApplication {
     Q_OBJECT
@@ -25,14 +25,14 @@ public:
     static void runModalForWindow(QWidget* window);
     /// Shows `window` in front of `below` (may be null) and centred over it.
     static void presentOver(QWidget* window, const QWidget* below);
-    /// Ends the innermost modal loop that runs; nothing without one.
+    /// Ends the innermost modal loop that runs; does nothing without one.
     static void stopModal();
 
     /// Ends the event loop, and the program with it, without any question.
     static void terminate();
 
-    /// Forgets the clicks and keys that have come in while the program could not take them, so that
-    /// they do not hit what is shown by then. Everything else that waits is kept.
+    /// Drops the clicks and keys that have come in while the program handled no event, so that they
+    /// do not act on what is shown by then. All other pending events are kept.
     void discardPendingInput();
 
 signals:

@@ -1,4 +1,4 @@
 #include "platform/desktop_notification.h"
 
-// Nothing starts the program for one file from a menu there.
+// No menu of macOS starts the program without a terminal to read its messages.
 void notifyDesktop(const QString& /*text*/) {}

@@ -23,5 +23,6 @@ bool fileExists(const QString& path);
 /// Makes a folder for its owner alone, with those above it, where it is missing. Null on success,
 /// or else the system's reason.
 QString makePrivateFolder(const QString& folder);
-/// Takes the rights of all but the owner away from a file or folder of the user's.
+/// Takes the rights of all but the owner away from a file or folder that the user owns; leaves any
+/// other as it is.
 void makePrivate(const QString& path);

@@ -22,7 +22,7 @@ FileFinder::FileFinder(qsizetype paths) : mostNames_(namesForOneLook * paths) {}
 bool FileFinder::exists(const QString& path) {
     const QByteArray bytes = QFile::encodeName(path);
     const qsizetype nameStart = bytes.lastIndexOf('/') + 1;
-    // The system takes no longer ones, whatever is there.
+    // The system refuses longer paths, even to what exists.
     if (nameStart == 0 || bytes.size() >= PATH_MAX) {
         return fileExists(path);
     }
@@ -36,7 +36,7 @@ bool FileFinder::exists(const QString& path) {
 
 QSet<QByteArray> FileFinder::readNames(const QByteArray& folder) {
     QSet<QByteArray> names;
-    // Names that may be read are of no use in a folder that may not be entered.
+    // Nothing can be reached in a folder that may be read but not entered.
     if (access((folder + '.').constData(), F_OK) != 0) {
         return names;
     }

@@ -5,9 +5,9 @@
 #include <QSet>
 #include <QString>
 
-/// Answers for many paths what fileExists() answers for one. Of a folder that is asked about often
-/// the names are read once, which is quicker than a look at each path; the reading altogether is
-/// never much more than the looks that it can save.
+/// Answers for many paths what fileExists() answers for one. The names in a folder that is asked
+/// about often are read once, which is quicker than a system call for each path; no more names are
+/// read altogether than the calls that they can save are worth.
 class FileFinder final {
 public:
     /// `paths`: about how many will be asked for.

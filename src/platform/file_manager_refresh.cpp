@@ -15,8 +15,8 @@ QByteArray inputFor(const QStringList& paths) {
     return input;
 }
 
-/// Outlives the program, and so must not hold on to its output: whoever reads that waits for its
-/// end.
+/// The process outlives this one, and so must not keep its output open: whoever reads that would
+/// wait for both to end.
 void startAlone(const QString& program, const QByteArray& input) {
     QTemporaryFile file;
     if (!file.open() || file.write(input) != input.size() || !file.flush()) {

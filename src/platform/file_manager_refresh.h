@@ -9,9 +9,9 @@
 
 /// Makes open windows of the desktop's file managers show what has become hidden or visible.
 ///
-/// The work is done by a small program beside the companions, so that neither a slow file manager
-/// nor anything that goes wrong with one is felt here. It repeats by itself what file managers may
-/// not have taken in at once.
+/// The work is done by a small program beside the companions, so that a file manager that is slow
+/// or fails does not affect this one. It repeats by itself what file managers may not have taken in
+/// at once.
 class FileManagerRefresh final : public QObject {
     Q_OBJECT
 
@@ -25,7 +25,7 @@ public:
 
     /// `program`: path of the program "refresh" in the companions' folder.
     explicit FileManagerRefresh(QString program, QObject* parent = nullptr);
-    /// What is still to be told is told without the program.
+    /// Hands what is still to be told to a process that outlives this one.
     ~FileManagerRefresh() override;
 
     /// To be called after the item's state was changed. Returns at once; calls within one turn of

@@ -11,10 +11,10 @@ struct FileRequest {
     enum class Kind { Add, Hide, Show, ShowAll };
 
     Kind kind = Kind::Add;
-    QStringList paths;            // absolute; none for ShowAll
-    bool someAreNoFiles = false;  // others that were given and are no places on this computer
-    QByteArray token;             // lets the window take the focus where the desktop asks for one
-    /// Where the asker waits for an answer: the sentences on what was not done, none when all went
-    /// well. To be called once.
+    QStringList paths;            ///< absolute; none for ShowAll
+    bool someAreNoFiles = false;  ///< others were given that name no file on this computer
+    QByteArray token;             ///< lets the window take the focus where the desktop asks for one
+    /// Empty when nobody waits for an answer. Otherwise whoever carries the request out, or refuses
+    /// it, calls this once, with a translated sentence for each thing that was not done.
     std::function<void(const QStringList& sentences)> answer;
 };

@@ -2,8 +2,8 @@
 
 #include <QRect>
 
-/// Rectangles of the controls are given with the origin at the bottom left, as on macOS;
-/// this is the one place that turns them round.
+/// The rectangle in Qt's coordinates, whose origin is at the top left. The frames of some controls
+/// are given with the origin at the bottom left of their container, as on macOS.
 inline QRect fromBottomLeft(const QRect& rectangle, int containerHeight) {
     return {rectangle.x(), containerHeight - rectangle.y() - rectangle.height(), rectangle.width(),
             rectangle.height()};

@@ -5,8 +5,8 @@
 #include <QSet>
 #include <QString>
 
-/// Whether a file manager that is opened now would leave the item at `path` out. It is asked of the
-/// disk itself, at once; an item that does not exist is as its name was left.
+/// Whether a file manager that is opened now would leave the item at `path` out. Read from the disk
+/// at each call. The item need not exist: what counts is whether its name is hidden.
 bool isItemHidden(const QString& path);
 
 /// Answers for many paths what isItemHidden() answers for one; what a folder hides is read once.

@@ -3,7 +3,8 @@
 #include <QString>
 #include <QVariant>
 
-/// The system log: one line an entry, with date, process name, process id and the text.
+/// The log on standard error: one line an entry, with date, process name, process id and the text.
+/// Lines that its reader does not take within a moment are lost.
 class Log {
 public:
     /// Routes Qt's own messages to the same form. Call once, at the start of the program.

@@ -20,9 +20,9 @@ class NotificationCenter {
 public:
     static NotificationCenter& defaultCenter();
 
-    /// Registers `handler` of `observer` for `name`; observers are called in the order of their
-    /// registration, and once for each. An observer that is gone is never called, also where its
-    /// registration was left in place.
+    /// Registers `handler` of `observer` for `name`. Observers are called in the order of their
+    /// registrations, once for each registration. One that has been destroyed is never called, even
+    /// if its registration was not removed.
     template <typename Observer>
     void addObserver(Observer* observer, void (Observer::*handler)(const Notification&),
                      const QString& name) {

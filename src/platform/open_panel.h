@@ -21,5 +21,5 @@ struct OpenPanelRequest {
 using OpenPanel =
     std::function<std::optional<QStringList>(QWidget* parent, const OpenPanelRequest& request)>;
 
-/// The platform's own panel where the desktop has one.
+/// An OpenPanel: the platform's own panel where the desktop has one, else Qt's.
 std::optional<QStringList> runOpenPanel(QWidget* parent, const OpenPanelRequest& request);

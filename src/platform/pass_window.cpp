@@ -20,7 +20,7 @@ namespace {
 constexpr qint64 shortPass = 500;  // milliseconds
 constexpr qint64 step = 100;
 
-// The program takes a moment to take its window away, and nobody waits for that.
+// Reaps the process later: it takes a moment to close its window, which nobody waits for.
 void forget(pid_t process) {
     constexpr int moment = 1000;  // milliseconds
     if (QCoreApplication* application = QCoreApplication::instance()) {
@@ -67,7 +67,7 @@ bool PassWindow::follow() {
             QByteArray record = QByteArray::number(done_) + '\t' + name_.toUtf8();
             record.replace('\0', ' ');
             record.append('\0');
-            // What finds no room is not needed: the next says more.
+            // A record that does not fit the buffer may be lost: the next one replaces it.
             send(socket_, record.constData(), static_cast<size_t>(record.size()),
                  MSG_DONTWAIT | MSG_NOSIGNAL);
         }

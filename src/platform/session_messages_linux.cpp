@@ -9,7 +9,7 @@
 
 namespace {
 
-// Those of this process. Qt has one with the session manager, where there is one under X11.
+// The ICE connections of this process: under X11, Qt has one to the session manager, if any.
 std::vector<IceConn> connections;
 
 void connectionChanged(IceConn connection, IcePointer /*data*/, Bool isOpening,

@@ -1,5 +1,5 @@
 #include "platform/session_messages.h"
 
-// The system asks the application itself, and waits for its answer.
+// macOS asks the application itself at log-out, and waits for its answer.
 void SessionMessages::watch() {}
 void SessionMessages::handle() {}

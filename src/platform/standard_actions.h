@@ -8,7 +8,7 @@ class QAction;
 class QMenu;
 
 /// The platform's standard edit commands, sent to whatever holds the keyboard focus. Each is
-/// offered only where the focus can do it; the program itself never enables or disables them.
+/// enabled only where the focus can do it; no other part of the program enables or disables them.
 ///
 /// A text field can do what its slots are named after. Any other widget says so by a property
 /// "editCommands", the names of the slots of its own that can be called now; it answers for the

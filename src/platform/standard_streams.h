@@ -1,5 +1,6 @@
 #pragma once
 
-/// Puts the program's standard streams in order, first of all: one that was closed leads nowhere,
-/// so that no file of the program's gets its number, and a reader that goes away ends nobody.
+/// Call first in the program. A standard stream that is closed is opened on /dev/null, so that no
+/// file of the program's gets its number, and SIGPIPE is ignored, so that a reader of the output
+/// that goes away does not end the program.
 void prepareStandardStreams();

@@ -14,7 +14,7 @@ namespace {
 
 Workspace* current = nullptr;
 
-// Our own picture for a kind of file, for a machine whose icon theme has none.
+// The program's own picture for a kind of file, for a machine whose icon theme has none.
 QString bundledIconName(const QMimeType& type) {
     const QString name = type.name();
     if (name == QLatin1String("inode/directory")) {

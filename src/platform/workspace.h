@@ -24,7 +24,7 @@ public:
     virtual void openFile(const QString& path);
     /// Opens a file manager's window in which the item is selected, or at least its folder.
     virtual void selectFile(const QString& path);
-    /// Opens a web address in the user's browser.
+    /// Opens an address, of the web or of a local file, in the user's browser.
     virtual void openUrl(const QString& address);
 
 private:

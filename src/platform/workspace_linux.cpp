@@ -20,7 +20,7 @@ struct SelectCommand {
     const char* option;
 };
 
-// The managers' own ways, for a session without the file manager's bus name.
+// For sessions in which no file manager answers on the bus.
 constexpr std::array selectCommands = {
     SelectCommand{"nautilus", "--select"},
     SelectCommand{"dolphin", "--select"},
