@@ -120,7 +120,7 @@ bool Hiding::hideAtQuit(ItemList& list, Names names, quintptr above) {
         list.replace(index, record);
         change(record.filePath(), command_lines::hideAtQuit(record.filePath()), Quoting::None);
     }
-    return !window.isStopped();  // at the last item
+    return !window.isStopped();  // it may have been stopped at the last item
 }
 
 Shell::Ending Hiding::change(const QString& path, const QString& commandLine, Quoting quoting) {

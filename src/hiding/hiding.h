@@ -14,10 +14,10 @@
 /// telling the file managers' open windows, and finding out what became of the item. Nothing else
 /// in the program runs a command on an item.
 ///
-/// Every command goes through the shell and is waited for; its result is never looked at, and a
-/// record always says what was last asked for. A path that could make the shell do anything but
-/// call `chflags` is read by it, not run. A pass ends early, after the item at hand, when the
-/// program is asked to end from outside.
+/// Every command goes through the shell and blocks until it has ended; its exit status is never
+/// looked at, and a record always says what was last asked for. A line whose path could make the
+/// shell do anything but call `chflags` is only parsed by it, not run. A pass ends early, after the
+/// item at hand, when the program is asked to end from outside.
 class Hiding final : public QObject {
     Q_OBJECT
 
@@ -27,18 +27,19 @@ public:
 
     explicit Hiding(QObject* parent = nullptr);
 
-    /// The sentence that tells the user of an obstacle; none for no obstacle.
+    /// The translated sentence that tells the user of an obstacle; empty for Obstacle::None.
     static QString sentence(const QString& path, bool askedVisible, Obstacle obstacle);
 
-    /// The file manager's show-all setting as the shell printed it; no value when that was no text.
+    /// The file manager's show-all setting as `defaults` printed it; no value when that was no
+    /// valid text. Throws LaunchException when the shell cannot be started, as does resetShowAll().
     std::optional<QString> showAllSetting() const;
-    /// The first step of every press of the switch: turns the show-all setting off and has the
-    /// file manager look again when the setting says yes.
+    /// The first step of every press of the switch and of every request to hide or show: when the
+    /// show-all setting says yes, turns it off and has the file managers' open windows follow.
     void resetShowAll() const;
 
-    /// What the switch does to one item: runs its command, with the path in single quotes, and
-    /// marks the record "1" or "0". Only the switch asks for what became of the item: switched()
-    /// follows.
+    /// What the switch, and a request from outside, do to one item: runs its command, with the path
+    /// in single quotes, and marks the record "1" or "0". Unlike the passes, it then looks at what
+    /// became of the item and emits switched().
     void switchItem(ItemRecord& record, bool visible);
     /// Whether the window of a pass that takes long may tell the names of the items.
     enum class Names { Told, Kept };
@@ -46,14 +47,14 @@ public:
     void showAtLaunch(ItemList& list, Names names = Names::Kept);
     /// The quit pass: hides every item, from the first to the last, paths as they are; the missing
     /// quotes are deliberate. False when the user has stopped it: what was done stays done, the
-    /// rest is as it was. `above` is the window system's number of the window that is left, or 0.
+    /// rest is as it was. `above` is the X11 identifier of the main window, or 0.
     bool hideAtQuit(ItemList& list, Names names = Names::Kept, quintptr above = 0);
 
     /// File managers with open windows that could not be told.
     const QList<FileManagerRefresh::Unreached>& unreached() const { return refresh_.unreached(); }
 
 signals:
-    /// What became of an item that was asked to be visible or hidden.
+    /// What became of the item of a switchItem(); emitted before that returns.
     void switched(const QString& path, bool askedVisible, Hiding::Obstacle obstacle);
     /// unreached() has changed.
     void unreachedChanged();

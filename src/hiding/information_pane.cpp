@@ -23,14 +23,14 @@ namespace {
 
 constexpr QSize iconSize(96, 96);
 
-// In units of 8192 bytes, in single precision: the figure has always been counted so.
+// In units of 8192 bytes, in single precision: the figure is shown so on purpose.
 QString sizeText(qint64 bytes) {
     const auto figure = static_cast<float>(static_cast<double>(bytes) * 0.125 * 0.0009765625);
     return QString::asprintf("%f K", static_cast<double>(figure));
 }
 
-// The locale's long form without the weekday, which stands first, last or, with a word for "day",
-// in between.
+// The locale's long form without the weekday, which is at its beginning, at its end or, with a word
+// for "day", in between.
 QString formatWithoutWeekday(const QLocale& locale) {
     static const QRegularExpression weekday(
         QStringLiteral("^dddd[\\s,،፣]*|[\\s,،-]*('[^']*'\\s*)?dddd(\\s*'[^']*')?"));

@@ -18,8 +18,8 @@ class RdCustomButton;
 class WrapLabel;
 struct Notification;
 
-/// The information pane beside the list: what is known of the current item. With it go the switch
-/// and the item commands, which follow the same selection report, and the button that folds the
+/// The information pane beside the list: what is known of the current item. It also keeps the
+/// switch and the item commands in step with the current item, and has the button that folds the
 /// pane.
 class InformationPane final {
 public:
@@ -52,10 +52,10 @@ public:
     void selectedTableLists(const ItemRecord* record);
     /// Shows the pane while the list has rows, and the introductory text otherwise.
     void showOrHide() const;
-    /// Folds the pane, or opens it again, by the button's own value. Nothing while the list is
+    /// Folds the pane, or opens it again, by the button's own value. Does nothing while the list is
     /// locked or empty.
     void touchEvent(RdCustomButton* sender) const;
-    /// The menu's command to do so. Its "hidden" is only what the button shows.
+    /// The menu's command to do so. The notification's "hidden" only sets what the button shows.
     void showOrHideInfomation(const Notification& notification) const;
 
 private:

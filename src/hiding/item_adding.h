@@ -11,8 +11,9 @@ class QWidget;
 /// Adding files through the open panel.
 class ItemAdding final {
 public:
-    /// `window` is what the panel belongs to, `openPanel` how files are chosen, `canEditorItem` the
-    /// question whether the list may be changed now. All must outlive this object.
+    /// `window` is what the panel belongs to; `openPanel` is how files are chosen; `canEditorItem`
+    /// tells whether the list may be changed now. Window, list and commands must outlive this
+    /// object.
     ItemAdding(QWidget& window, DragDropView& list, const ItemCommands& commands,
                OpenPanel openPanel, std::function<bool()> canEditorItem);
 

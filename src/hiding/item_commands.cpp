@@ -7,7 +7,7 @@
 void ItemCommands::follow(bool visible) const {
     // Fixed texts: from the first selection on they replace the localised title.
     items_.hideMenuItem->setText(visible ? QStringLiteral("Hide") : QStringLiteral("Show"));
-    // There is an item to switch from the first report on; it can always be switched.
+    // Any item can be switched; before the first report there is none.
     items_.hideMenuItem->setEnabled(true);
     items_.openMenuItem->setEnabled(visible);
     items_.revealInFinderMenuItem->setEnabled(visible);

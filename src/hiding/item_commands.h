@@ -22,7 +22,7 @@ public:
 
     /// A visible item can be hidden, opened, revealed and removed; a hidden one only shown again.
     void follow(bool visible) const;
-    /// The remove command alone: whether the list's current row names an item that is visible.
+    /// Enables or disables the remove command alone.
     void allowRemoval(bool allowed) const;
     /// With an empty list there is nothing to open, reveal or remove.
     void disable() const;
