@@ -117,7 +117,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
     if (qobject_cast<QRadioButton*>(object) != nullptr) {
         return new AccessibleButton(button, QAccessible::RadioButton);
     }
-    // A tool button may become checkable after this. One with a menu has Qt's own side.
+    // A tool button may become checkable after this. One with a menu keeps Qt's own interface.
     const auto* tool = qobject_cast<QToolButton*>(object);
     if (button->isCheckable() || (tool != nullptr && tool->menu() == nullptr)) {
         return new AccessibleButton(button, QAccessible::Button);

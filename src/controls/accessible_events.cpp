@@ -83,7 +83,7 @@ void announce(QWidget* region, const QString& text) {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent event(region, text);
 #else
-    // A notification that comes to be shown is spoken, and so is an alert.
+    // Screen readers speak a notification when it is shown.
     QAccessibleEvent event(region, QAccessible::ObjectShow);
 #endif
     QAccessible::updateAccessibility(&event);

@@ -4,11 +4,13 @@
 
 class QWidget;
 
-/// Puts right what Qt tells assistive technology of changes: what is typed into a field that hides
-/// it goes out as bullets, and the focus is told as that of the child which a control says has it.
-/// A handler that was installed before gets what comes out, else the platform does. Call once,
-/// before the first window.
+/// Corrects the events that Qt sends to assistive technology: text typed into or removed from a
+/// password field goes out as bullets, and a list's focus event is sent for the row that has the
+/// focus. A handler that was installed before gets the corrected events, else the platform does.
+/// Call once, before the first window.
 void installAccessibleEvents();
 
-/// Has assistive technology speak `text`, which `region` shows, wherever the focus is.
+/// Has assistive technology speak `text`, wherever the focus is. `region` shows it and is marked as
+/// a live region (see accessible_labels.h). Does nothing for an empty text, or while no assistive
+/// technology is connected.
 void announce(QWidget* region, const QString& text);

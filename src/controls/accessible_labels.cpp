@@ -6,7 +6,7 @@
 
 namespace {
 
-/// A picture or a line that says nothing which is not said in words beside it.
+/// A picture or a line that only repeats what is said in words beside it.
 class AccessibleDecoration final : public QAccessibleWidget {
 public:
     explicit AccessibleDecoration(QWidget* widget)

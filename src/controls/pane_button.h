@@ -6,8 +6,8 @@
 class QPainter;
 
 /// A button with a picture and nothing around it, for rows and panes: it darkens under the pointer
-/// and more when it is pressed, and the keyboard's focus has a frame. Its ground is light whatever
-/// the desktop's palette is. The picture grows with the font.
+/// and more when it is pressed, and the keyboard's focus has a frame. It is made for a light
+/// background, whatever the desktop's palette is. The picture grows with the font.
 class PaneButton final : public QToolButton {
     Q_OBJECT
 
@@ -16,8 +16,8 @@ public:
 
     enum class Dress {
         Plain,
-        Framed,  ///< stands out as a button
-        Sign,    ///< no button to the eye: shows how another control stands
+        Framed,  ///< with a frame and a light background
+        Sign,    ///< the picture alone, which shows the state of another control
     };
     void setDress(Dress dress);
 
@@ -32,7 +32,8 @@ private:
     Dress dress_ = Dress::Plain;
 };
 
-/// What PaneButton and the flat push buttons of the panes have around their contents, and its
-/// width on each side.
+/// Draws what PaneButton and the flat push buttons of the panes have around their contents: the
+/// shade of the state, and a frame for the keyboard's focus.
 void drawPaneButtonFrame(QPainter& painter, const QRect& button, QStyle::State state);
+/// The room around those contents on each side, in units.
 inline constexpr int paneButtonMargin = 4;

@@ -2,17 +2,18 @@
 
 #include <QProxyStyle>
 
-/// The desktop's own style, but for flat push buttons: they lie in a pane as a text at its left
-/// edge, or as a picture. Menus and menu bars have the colours of the window that they belong to,
-/// and on dark and on high-contrast desktops boxes, fields, buttons, scroll and progress bars have
-/// a frame that can be seen. Check boxes grow with the font.
+/// The desktop's own style, with these changes. Flat push buttons are drawn as a left-aligned text
+/// or a picture, without a frame. Menus and menu bars have the colours of the window that they
+/// belong to. Where the style's frames are too faint (on black and white windows, with Fusion on
+/// all dark ones), boxes, fields, buttons, scroll and progress bars get one that can be seen. Check
+/// boxes grow with the font.
 class VelmoraStyle final : public QProxyStyle {
     Q_OBJECT
 
 public:
-    /// Goes around the style that the application object has chosen: the desktop's own, the one
-    /// that the user has named, or Fusion. Once, when that object is there: before it nobody knows
-    /// of the desktop.
+    /// Wraps the style that the application object has chosen (the desktop's own, the one that the
+    /// user has named, or Fusion) and makes the result the application's style. Call once, after
+    /// the application object is made.
     static void wear();
 
     using QProxyStyle::polish;

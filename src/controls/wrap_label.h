@@ -10,7 +10,8 @@ class WrapLabel final : public QLabel {
 public:
     explicit WrapLabel(QWidget* parent = nullptr);
 
-    /// Shows a file's name or path so that nothing in it can deceive; what is copied is itself.
+    /// Shows a file's name or path as shownName() makes it; the label's Copy command copies the
+    /// name itself.
     void setName(const QString& name);
 
     bool hasHeightForWidth() const override { return true; }

@@ -105,7 +105,7 @@ public:
     }
     QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
-    // Whether the row reads otherwise than when this was last asked, or than when it was made.
+    // Whether the row's name has changed since this was last called, or since it was made.
     bool takeRenamed() {
         const QString name = text(QAccessible::Name);
         return std::exchange(name_, name) != name;
@@ -127,7 +127,7 @@ public:
         }
     }
 
-    // Asked for as early as in the table's constructor.
+    // Called as early as in the table's constructor, when there is no model yet.
     int rowCount() const { return table()->model() != nullptr ? table()->model()->rowCount() : 0; }
 
     // The rows first, then the buttons of the row under the pointer.
@@ -182,7 +182,7 @@ public:
             QAccessible::updateAccessibility(&reorder);
         }
     }
-    // Sent once the table says the same when it is asked.
+    // To be called when the table already reports the new row as current.
     void currentRowChanged(int left) const {
         const auto tell = [this](int of, QAccessible::Event what) {
             if (of >= 0 && of < rowCount()) {
@@ -222,7 +222,7 @@ private:
     int toldCount_ = rowCount();
 };
 
-AccessibleTable* accessibleSide(DragDropTableView* table) {
+AccessibleTable* accessibleTable(DragDropTableView* table) {
     return QAccessible::isActive()
                ? dynamic_cast<AccessibleTable*>(QAccessible::queryAccessibleInterface(table))
                : nullptr;
@@ -240,13 +240,13 @@ void installAccessibleItems() {
 }
 
 void updateAccessibleItems(DragDropTableView* table) {
-    if (AccessibleTable* known = accessibleSide(table)) {
+    if (AccessibleTable* known = accessibleTable(table)) {
         known->rowsChanged();
     }
 }
 
 void tellCurrentItem(DragDropTableView* table, int left) {
-    if (const AccessibleTable* known = accessibleSide(table)) {
+    if (const AccessibleTable* known = accessibleTable(table)) {
         known->currentRowChanged(left);
     }
 }

@@ -54,7 +54,7 @@ public:
 
     /// Not owned; must outlive the table or be unset.
     void setDataSource(TableDataSource* source);
-    /// Takes the row count anew and makes fresh cells. Reports no selection change, also when the
+    /// Takes the row count anew and makes fresh cells. Reports no selection change, even when the
     /// selected row is gone.
     void reloadData();
     /// The selected row, or -1.
@@ -80,7 +80,8 @@ public:
 
     /// Has the row's icon found once the window has nothing better to do, and the row painted anew.
     void wantIcon(int row);
-    /// The cell of a row in view, made when it is first asked for.
+    /// The cell of the row, made when it is first asked for. Kept until the next reload, or until
+    /// many rows have been scrolled past.
     std::shared_ptr<ListCell> cellForRow(int row) const;
     PaneButton* checkButton() const { return checkButton_; }
     PaneButton* deletedButton() const { return deletedButton_; }

@@ -37,7 +37,7 @@ DragDropView::DragDropView(QWidget* parent)
     NotificationCenter::defaultCenter().addObserver(this, &DragDropView::changeCellData,
                                                     notification_names::changeCellData);
     setAcceptDrops(true);
-    // The header's buttons leave its last line free: there the grey ground shows as a line.
+    // The header's buttons leave its last line free: the grey background shows there as a line.
     QPalette ground = palette();
     ground.setColor(QPalette::Window, QColor(128, 128, 128));
     setPalette(ground);
@@ -144,7 +144,6 @@ bool DragDropView::isCurrentRecordVisible() const {
 }
 
 void DragDropView::selectionReport() {
-    // A negative index fails the comparison too.
     if (delegate_ != nullptr && selectRowIndex_ >= 0 && selectRowIndex_ < count()) {
         const ItemRecord record = fileLists_->at(selectRowIndex_);
         delegate_->selectedTableLists(&record);

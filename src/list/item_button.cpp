@@ -77,8 +77,7 @@ void ItemButton::leaveEvent(QEvent* /*event*/) {
 void ItemButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), isDown() ? mouseEnteredColor_.darker(110) : backgroundColor_);
-    // The line under the title lies just beyond the height that is drawn, so that it shows only
-    // where the header gives it room.
+    // This line lies below the button and is clipped; what is seen there is the list's background.
     painter.fillRect(0, height() + 1, width(), 1, lineColor);
     if (tag_ == statusTag) {
         painter.fillRect(0, 0, 1, height(), lineColor);

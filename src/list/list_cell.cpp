@@ -12,7 +12,6 @@
 
 namespace {
 
-// What is square in a row grows with its height.
 constexpr int usualHeight = 40;
 constexpr int statusWidth = 60;
 constexpr int statusGap = 20;

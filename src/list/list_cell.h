@@ -26,12 +26,12 @@ public:
     /// The placeholder icon and texts that stand until the list view has set its own.
     ListCell();
 
-    /// The height of a row, and the room that its status text and its buttons take at the right:
-    /// as given, unless the user's font or language needs more.
+    /// The height of a row, and the width that its status text and its buttons take at the right:
+    /// 40 and 60 units, unless the user's font or language needs more.
     static int height(const QFontMetrics& metrics);
     static int statusRoom(const QFontMetrics& metrics);
 
-    /// Where the parts of the row lie within `row`, in the row's own coordinates.
+    /// The rectangles of the row's parts, in the coordinates that `row` is given in.
     struct Layout {
         QRect icon;  // a square with the picture in its middle
         QRect title;

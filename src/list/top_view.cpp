@@ -58,7 +58,8 @@ QSize TopView::minimumSizeHint() const {
 }
 
 int TopView::statusRoom() const {
-    // Begins as far before the status texts as the two given widths say.
+    // The button begins as far before the status texts of the rows as for the usual font, where the
+    // header has 80 units and a row 60.
     constexpr int given = statusWidth - 60;
     return std::max({statusWidth, rightButton_->sizeHint().width(),
                      ListCell::statusRoom(fontMetrics()) + given});

@@ -18,7 +18,7 @@ class TopView final : public QWidget {
     Q_OBJECT
 
 public:
-    /// Both arrows shown, as the buttons are made; the view controller settles which stays.
+    /// Both arrows are shown until activateLeftButton() or a click.
     explicit TopView(QWidget* parent = nullptr);
 
     ItemButton* leftButton() const { return leftButton_; }

@@ -24,13 +24,20 @@ public:
     };
     explicit PasswordGate(const Outlets& outlets, QObject* parent = nullptr);
 
-    /// Whether the user may change the list now.
+    /// Whether the user may change the list now: the settings are read, and the list is either not
+    /// protected or unlocked since the program started.
     bool canEditorItem() const;
-    /// The protection switch was pressed.
+    /// The protection switch was pressed. Opens the dialog for a first password when none is
+    /// stored, turns protection on or off when the list is unlocked, and asks for the password
+    /// otherwise.
     void require_password(RdCustomButton* sender);
-    /// Asks for the password; `sender` may be null.
+    /// Opens the dialog that asks for the password and returns at once. `sender`, the protection
+    /// switch, is shown as on; it may be null.
     void inputRequire_password(RdCustomButton* sender);
+    /// The menu command: opens the dialog that sets or changes the password.
     void changePasswordMeunItem(const Notification& notification);
+    /// Reports of RDPasswordViewController, in the order in which it posts them: the text that was
+    /// typed, and then whether it was right.
     void changePassword(const Notification& notification);
     void yanzhengPassword(const Notification& notification);
 
@@ -41,7 +48,8 @@ public:
     void askNow();
     /// Titles the password command by whether a password is stored.
     void titleCommand() const;
-    /// Changing the password asks for no old one, so the command is closed while the list is
+    /// Enables the password command while the list may be changed, and emits changed(). Changing
+    /// the password does not ask for the old one, so it must not be possible while the list is
     /// locked.
     void enableCommand();
 

@@ -69,7 +69,7 @@ std::unique_ptr<QWidget> RDTwoWindowController::loadWindow() {
     general_ = ui.general;
     general_->setText(Bundle::localizedString(QStringLiteral("General"), preferenceTable));
     general_->setIcon(Bundle::imageNamed(QStringLiteral("general")));
-    // A tool bar keeps its buttons from the keyboard.
+    // The buttons of a tool bar take no keyboard focus by default.
     ui.toobar->widgetForAction(general_)->setFocusPolicy(Qt::TabFocus);
     auto* panes = new QActionGroup(window.get());
     panes->addAction(general_);
