@@ -95,7 +95,6 @@ void ItemList::sortByTitle(bool ascending) {
 }
 
 void ItemList::forEach(const std::function<void(const ItemRecord&)>& visitor) const {
-    // The visitor may change this list; the walk goes on over what it was.
     const QList<QList<ItemRecord>> parts = parts_;
     for (const QList<ItemRecord>& part : parts) {
         for (const ItemRecord& record : part) {

@@ -30,6 +30,8 @@ public:
     void removeIf(const std::function<bool(const ItemRecord&)>& predicate);
     /// Sorts by `fileTitle`, plain UTF-16 comparison; records of equal titles in any order.
     void sortByTitle(bool ascending);
+    /// Calls the visitor for every record in order. It may change this list: the records visited
+    /// are those that were there at the call.
     void forEach(const std::function<void(const ItemRecord&)>& visitor) const;
 
     /// Equality of the records in their order; quick for lists that share their content.

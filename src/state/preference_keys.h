@@ -3,7 +3,8 @@
 #include <QLatin1StringView>
 #include <QString>
 
-/// The keys of the store that are used as they are. Their spelling is forever.
+/// The keys of the store that go through no localisation table. Settings are stored under them, so
+/// their spelling must never change.
 inline constexpr QLatin1StringView itemListKey{"fileListView_List"};
 inline constexpr QLatin1StringView passwordKey{"password"};
 inline constexpr QLatin1StringView requirePasswordKey{"requirePassword"};

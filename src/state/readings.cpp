@@ -45,7 +45,7 @@ qlonglong integerOfText(QStringView text) {
         if (digit < u'0' || digit > u'9') {
             break;
         }
-        // Counted downwards, where the range has one number more.
+        // Computed as a negative number: the negative range has one number more.
         const int next = digit.unicode() - u'0';
         if (result < (Limits::min() + next) / 10) {
             return minus ? Limits::min() : Limits::max();

@@ -6,7 +6,8 @@
 #include <QString>
 #include <QVariant>
 
-/// Where the user defaults live on this system. Main thread only.
+/// Where the user defaults are kept on this system. UserDefaults describes the functions of the
+/// same names. Main thread only.
 class Store : public QObject {
     Q_OBJECT
 
@@ -15,6 +16,7 @@ public:
     /// system has no defaults database of its own.
     static std::unique_ptr<Store> open(const QString& file);
 
+    /// In its stored form; invalid when the key is absent.
     virtual QVariant value(const QString& key) const = 0;
     /// Takes a value in its stored form (stored_value.h).
     virtual void setValue(const QString& key, const QVariant& value) = 0;

@@ -180,7 +180,7 @@ QString replaceStore(const QString& file, const StoreContents& contents) {
     if (QString reason = makeFolderOf(file); !reason.isNull()) {
         return reason;
     }
-    // One whose end could not be found out must not be replaced by a file.
+    // A link whose target could not be found out must not be replaced by a file.
     struct stat status {};
     errno = ELOOP;
     if (::lstat(target.constData(), &status) == 0 ? S_ISLNK(status.st_mode) : errno != ENOENT) {

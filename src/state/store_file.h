@@ -18,6 +18,7 @@ struct StoreReading {
     StoreContents contents;
     QString reason = {};  ///< the system's, for what is out of reach
 };
+/// Reads and parses the file. Changes nothing, and does not wait for a pipe of that name.
 StoreReading readStore(const QString& file);
 
 /// Makes a second name for the file, its own with the time added, that keeps the content through

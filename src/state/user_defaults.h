@@ -44,6 +44,7 @@ public:
     /// The stored item list; no value when it is absent (which is not the same as empty) or holds
     /// something that is no array.
     std::optional<ItemList> itemList() const;
+    /// Replaces the stored list; no value leaves it as it is.
     void setItemList(const std::optional<ItemList>& list);
 
     /// Saves what is unsaved and waits for it. False when the save failed; problem() says why.
