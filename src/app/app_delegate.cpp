@@ -55,8 +55,8 @@ void AppDelegate::connectActions() {
         connect(entry.first, &QAction::triggered, this,
                 [this, entry] { (this->*entry.second)(entry.first); });
     }
-    // Assistive technology that chooses one of these is answered before the window opens, and not
-    // only when it is closed. Of two that were chosen at once the first one opens.
+    // Queued, so that assistive technology that chooses one of these is answered before the window
+    // opens, and not only when it is closed. Of two that are chosen at once only the first opens.
     for (const auto& entry : windows) {
         connect(
             entry.first, &QAction::triggered, this,

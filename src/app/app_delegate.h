@@ -30,7 +30,7 @@ public:
     void licenseAgreement_touch(QAction* sender);
     /// Shows the fixed notice; nothing is fetched and no version compared.
     void checkForUpdates(QAction* sender);
-    /// Opens the how-to page in the user's browser.
+    /// Opens the guide in the user's browser.
     void help(QAction* sender);
 
     // Start-up is the view controller's work and quitting the window controller's; these stay

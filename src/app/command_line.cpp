@@ -84,7 +84,8 @@ QStringList carryOutHere(const FileRequest& request, bool& locked) {
     return sentences;
 }
 
-// Its window asks for the password. It outlives this start, whose output others may wait for.
+// Starts the program with its window, which asks for the password. That process outlives this one,
+// and so must not keep its output open: whoever reads that would wait for both to end.
 void startWindow() {
     QProcess process;
     process.setProgram(QCoreApplication::applicationFilePath());

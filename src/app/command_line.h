@@ -9,20 +9,24 @@
 
 /// What the program was started with.
 struct CommandLine {
-    /// Add for a start with a window, also when no file was given.
+    /// Its kind is Add, with no paths, when neither an option nor a file was given.
     FileRequest request;
     bool help = false;
     bool version = false;
-    /// What is wrong with it; empty for nothing.
+    /// What is wrong with the arguments, translated; empty when nothing is.
     QString error;
 };
 
-/// Reads the arguments, the program's own name first. Names become absolute paths of this folder.
+/// Reads the arguments, of which the first is the program's own name. Files may be given as paths,
+/// relative to the working folder or absolute, or as `file:` addresses; all become absolute paths.
 CommandLine readCommandLine(const QStringList& arguments);
-/// The text for `--help`.
+/// The translated text for `--help`.
 QString commandLineHelp();
 
-/// Hides or shows without a window, by the running program where there is one. What is not done is
-/// told on standard error, and by the desktop where no terminal reads that. The status to end with:
-/// 0, or 1 when something was not done.
+/// Carries out a request to hide or show without a window: by the running program where there is
+/// one, else on the stored list. Blocks, for as long as a dialog is open in the running program (at
+/// most ten minutes). What was not done is told on standard error and, when that is no terminal, by
+/// a notification of the desktop. When the list is locked nothing is done, and the program is
+/// started with its window, which asks for the password. Returns the exit status: 0, or 1 when
+/// something was not done.
 int carryOutWithoutWindow(const FileRequest& request);

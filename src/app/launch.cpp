@@ -60,8 +60,8 @@ int run(Application& application, const FileRequest& request) {
         return 0;
     }
     UserDefaults defaults(UserDefaults::standardFile());
-    // Ended from outside, the program stores everything but does not run the quit pass. Before the
-    // launch pass, which such an end cuts short.
+    // Ended from outside, the program stores everything but does not run the quit pass. Set up
+    // before the launch pass, which such an end cuts short.
     const TerminationSignals terminationSignals;
     Shell::setInterruption(terminationSignals.descriptor());
     QObject::connect(&terminationSignals, &TerminationSignals::terminationRequested, &application,

@@ -1,6 +1,8 @@
 #pragma once
 
-/// The program from its start to its end: makes the application object, shows the main window and
-/// runs the event loop; returns the exit status. A second start on the same store only brings the
-/// first one forward.
+/// The program from its start to its end; returns the exit status. Without options it shows the
+/// main window and runs the event loop, or, while another process runs on the same store, brings
+/// that one's window forward and gives it the files of the command line. `--hide`, `--show`,
+/// `--show-all`,
+/// `--help` and `--version` need no window.
 int launch(int argc, char** argv);

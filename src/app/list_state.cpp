@@ -26,7 +26,7 @@ ListState::ListState(const Outlets& outlets, std::function<bool()> canEditorItem
 
 ListState::Gate ListState::gate() const {
     if (!UserDefaults::standardUserDefaults().isRead()) {
-        return Gate::StoreUnread;  // of which the quiet line tells already
+        return Gate::StoreUnread;  // the quiet line says so already
     }
     if (!canEditorItem_()) {
         return Gate::Locked;

@@ -9,9 +9,10 @@ class PictureLabel;
 class QLabel;
 class QWidget;
 
-/// What the window shows of the list's state: the introductory text while there are no rows, below
-/// it either an invitation or that the list is locked, and, while rows are shown, that drag and
-/// drop is closed. Refusals themselves stay silent.
+/// What the window shows of whether the list can be changed. While there are no rows, that is the
+/// introductory text and below it an invitation to add items, or that the list is locked. While
+/// there are rows, it is the sentence that closed() reports. A drop or command that is refused
+/// shows no message of its own.
 class ListState final : public QObject {
     Q_OBJECT
 
@@ -19,11 +20,11 @@ public:
     /// Not owned; must outlive this object.
     struct Outlets {
         const DragDropView* fileListView;
-        QWidget* textScrollCiew;  // the introductory text with what stands around it
+        QWidget* textScrollCiew;  // holds the introductory text and the invitation
         PictureLabel* invitationPicture;
         QLabel* invitationHint;
     };
-    /// `canEditorItem`: whether the list may be changed now.
+    /// `canEditorItem`: whether the list may be changed now. It is called in refresh().
     ListState(const Outlets& outlets, std::function<bool()> canEditorItem,
               QObject* parent = nullptr);
 
@@ -31,7 +32,8 @@ public:
     void refresh();
 
 signals:
-    /// Why the list that is shown takes no drops; empty when it does.
+    /// Emitted by every refresh(): why the list that is shown takes no drops, translated; empty
+    /// when it takes them, has no rows, or was not read.
     void closed(const QString& reason);
 
 private:

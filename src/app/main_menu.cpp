@@ -62,7 +62,6 @@ void titleMenus(const MenuOutlets& menu) {
 }
 
 void setMenuKeys(const MenuOutlets& menu) {
-    // Each system's own keys. Close has none: it does nothing, on purpose.
     const std::pair<QAction*, QKeySequence> keys[] = {
         {menu.addMenuItem, QKeySequence::Open},
         {menu.hideMenuItem, QKeySequence(Qt::CTRL | Qt::Key_H)},

@@ -5,11 +5,13 @@ class QMainWindow;
 class QMenuBar;
 class QWidget;
 
-/// Gives every menu and item its localised title.
+/// Gives the menus and items their localised titles. The menu "Velmora" has the program's name, and
+/// PasswordGate titles the password command.
 void titleMenus(const MenuOutlets& menu);
-/// Gives the items each system's own keys.
+/// Gives the items their keys: the system's standard ones where it has them. Close has none, since
+/// it does nothing on purpose.
 void setMenuKeys(const MenuOutlets& menu);
-/// The remove command's key counts only while the focus is in `list`.
+/// Restricts the remove command's key to when the focus is in `list`.
 void keepRemoveKeyIn(QWidget& list, const MenuOutlets& menu);
 /// F10 opens the first menu of `bar` while `window` is active.
 void openByKey(QMenuBar& bar, QMainWindow& window);

@@ -54,7 +54,7 @@ ViewController::Outlets viewOutlets(const Ui::Main& ui) {
             .itemInfomationLine = ui.itemInfomationLine};
 }
 
-// The order of the eye: the list, the pane beside it, the bar below. In code because the list's own
+// The reading order: the list, the pane beside it, the bar below. In code because the list's own
 // controls are in no interface file.
 void orderTabs(const Ui::Main& ui) {
     const DragDropView& list = *ui.fileListView;
@@ -168,7 +168,7 @@ void MainWindow::bringForward(const QByteArray& token) {
 }
 
 void MainWindow::stayPainted() {
-    // Nothing but painting: whatever else comes waits for the end of the press or the pass.
+    // Only painting: all other events wait for the end of the press or the pass.
     constexpr int betweenPaintings = 400;  // milliseconds
     if (window_.isVisible() &&
         (!sincePainted_.isValid() || sincePainted_.elapsed() >= betweenPaintings)) {

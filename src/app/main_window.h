@@ -26,8 +26,8 @@ class Main;
 }
 
 /// The main window with everything behind it: loads the interface file "Main", makes the parts of
-/// the program, gives each the controls that it touches, and connects them. The one place that
-/// does.
+/// the program, gives each the controls that it touches, and connects them. No other class connects
+/// parts to each other.
 ///
 /// The standard user defaults must exist before it and outlive it.
 class MainWindow final {
@@ -48,7 +48,7 @@ public:
     /// one, and may be empty.
     void bringForward(const QByteArray& token);
 
-    /// Does what is asked from outside the window, once no dialog is open.
+    /// Carries out what is asked from outside the window; see RequestQueue::take().
     void take(const FileRequest& request) { requests_.take(request); }
 
     QMainWindow& window() { return window_; }

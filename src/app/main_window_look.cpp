@@ -37,8 +37,8 @@ QIcon twoStates(const char* off, const char* on) {
     return icon;
 }
 
-// The window has given light colours. On a dark desktop all the rest of it is light too; what is
-// chosen in it keeps the desktop's colour.
+// The list, header, pane and bar have fixed light colours. On a dark desktop the rest of the window
+// is light too; only the selection keeps the desktop's colours.
 QPalette windowPalette(const QPalette& desktop) {
     constexpr int middle = 128;
     if (desktop.color(QPalette::Window).lightness() >= middle &&
@@ -85,7 +85,7 @@ void dressControls(const Ui::Main& ui) {
     ui.settingButton->setToolTip(withoutMnemonic(mainText("preferenceMenuItem")));
     ui.requirePassword->setIcon(twoStates("protection-off", "protection-on"));
     ui.requirePassword->setIconSize({42, 22});
-    // Only shows how the button beside it stands.
+    // Only shows the state of the button beside it.
     ui.sanjiao->setEnabled(false);
     ui.sanjiao->setIcon(twoStates("disclosure-closed", "disclosure-open"));
     ui.sanjiao->setIconSize({12, 12});

@@ -9,8 +9,9 @@ class QLabel;
 struct UnmetMarks;
 
 /// The quiet line at the bottom of the window: what a user must know and no more, without a
-/// dialog. It takes no room while there is nothing to say. A later message on the same matter
-/// replaces the earlier one, and one that is empty withdraws it.
+/// dialog. It takes no room while there is nothing to say. Each function below has a matter of its
+/// own: a later message on it replaces the earlier one, and an empty one withdraws it. Messages are
+/// translated plain text, and are announced to assistive technology.
 class QuietLine final : public QObject {
     Q_OBJECT
 
@@ -22,13 +23,13 @@ public:
     void sayStore(const QString& problem) { say(Store, problem); }
     /// Why the list that is shown takes no drops.
     void sayClosed(const QString& reason) { say(Closed, reason); }
-    /// What the user's last action, or the start, did that cannot be seen. Every action says
-    /// something here, if only an empty text, and so takes back what the one before it said.
+    /// What the user's last action, or the start, did that cannot be seen. Every action calls this,
+    /// if only with an empty text, and so withdraws the message of the action before.
     void sayHappened(const QString& text) { say(Happened, text); }
     /// How many items are marked otherwise than a pass over the whole list has left them: marked
     /// visible and still hidden, or marked hidden and still visible.
     void sayUnmet(const UnmetMarks& unmet);
-    /// What became of the item that the switch was pressed for.
+    /// What became of an item that was switched; nothing is shown for Obstacle::None.
     void saySwitched(const QString& path, bool askedVisible, Hiding::Obstacle obstacle);
     /// What to press in file managers that could not be told.
     void sayUnreached(const QList<FileManagerRefresh::Unreached>& managers);

@@ -12,23 +12,23 @@ class RDWindowController final : public QObject {
     Q_OBJECT
 
 public:
-    /// Window and hiding must outlive the controller. `isListShown` tells whether names of items
-    /// may be told.
+    /// Window and hiding must outlive the controller. `isListShown` tells whether the window of a
+    /// quit pass may show the names of the items.
     RDWindowController(QMainWindow& window, Hiding& hiding, std::function<bool()> isListShown,
                        QObject* parent = nullptr);
 
     /// Titles the window and binds its close button to closeApplication().
     void windowDidLoad();
     /// The quit path: with the quit preference on, every stored record is marked hidden and its
-    /// item hidden, whether or not the list is unlocked; then the application terminates. The user
-    /// may stop the pass and then stays; when the changes cannot be saved, the user is asked, and
-    /// may stay. Runs once at a time.
+    /// item hidden, whether or not the list is unlocked; then the application terminates. It goes
+    /// on running, and stayed() is emitted, when the user stops the pass, or does not want to quit
+    /// after all because the changes cannot be saved. A call during another one does nothing.
     void closeApplication();
-    /// Ends the modal loop that is running, if any; the window may close.
+    /// Ends the innermost modal loop, if any runs. Always true: the window may close.
     bool windowShouldClose();
 
 signals:
-    /// The user has stayed; a quit pass may have marked the stored records hidden.
+    /// The program goes on running; a quit pass may have marked stored records hidden.
     void stayed();
 
 protected:

@@ -14,7 +14,7 @@ using Kind = FileRequest::Kind;
 RequestQueue::RequestQueue(DragDropView& list, Hiding& hiding, std::function<bool()> canEditorItem,
                            QObject* parent)
     : QObject(parent), list_(list), hiding_(hiding), canEditorItem_(std::move(canEditorItem)) {
-    // Nothing tells when the last of several dialogs has gone.
+    // No signal tells when the last of several dialogs is closed.
     constexpr int aMoment = 100;  // milliseconds
     again_.setInterval(aMoment);
     connect(&again_, &QTimer::timeout, this, &RequestQueue::work);
@@ -22,7 +22,7 @@ RequestQueue::RequestQueue(DragDropView& list, Hiding& hiding, std::function<boo
 
 void RequestQueue::take(const FileRequest& request) {
     if (request.kind != Kind::Add && !canEditorItem_()) {
-        // At once: its dialog may be the very one that is open.
+        // At once: the dialog that is open may be the one that asks for the password.
         refuse(request);
         return;
     }
@@ -50,7 +50,7 @@ void RequestQueue::work() {
 
 void RequestQueue::refuse(const FileRequest& request) {
     if (request.kind == Kind::Add) {
-        return;  // without a word, as every addition is
+        return;  // without a message, as any other attempt to add to a locked list
     }
     emit locked(request.token);
     answer(request, {UserDefaults::standardUserDefaults().isRead()

@@ -11,8 +11,8 @@
 class DragDropView;
 class Hiding;
 
-/// What is asked of the running program from outside its window, one request after the other. While
-/// a dialog is open they wait for its end.
+/// Carries out what is asked of the running program from outside its window, one request after the
+/// other. While a dialog is open they wait until it is closed.
 class RequestQueue final : public QObject {
     Q_OBJECT
 
@@ -21,13 +21,17 @@ public:
     RequestQueue(DragDropView& list, Hiding& hiding, std::function<bool()> canEditorItem,
                  QObject* parent = nullptr);
 
+    /// Carries the request out, now or when no dialog is open, and answers it. While the list is
+    /// locked or the settings are not read, a request to hide or show is refused at once, and one
+    /// to add is dropped when its turn comes, without a message.
     void take(const FileRequest& request);
 
 signals:
-    /// A request to hide or show met a locked list: the user is to be asked for the password.
-    /// `token` as in the request.
+    /// A request to hide or show was refused: the user is to be asked for the password. `token` as
+    /// in the request.
     void locked(const QByteArray& token);
-    /// For the quiet line: what was not added.
+    /// A request to add was carried out: for the quiet line, what was not added; empty when all
+    /// was.
     void happened(const QString& text);
 
 private:

@@ -40,7 +40,7 @@ ViewController::ViewController(const Outlets& outlets, AppDelegate& delegate, co
     : QObject(parent), outlets_(outlets), delegate_(delegate), parts_(parts) {}
 
 ViewController::~ViewController() {
-    // Two names are left in place; an observer that is gone is never called.
+    // The registrations of two other names stay: an observer that is destroyed is never called.
     for (const QString& name :
          {notification_names::showOrHideInformation, notification_names::verifyPassword,
           notification_names::changePassword, notification_names::addItem,
@@ -88,7 +88,7 @@ void ViewController::loadFromStore() {
 }
 
 void ViewController::launchReveal() {
-    // The one place that resolves the preference in the table "Main".
+    // Looked up in the table "Main", although the preferences window stores it through its own.
     if (!preference(Preference::MakeVisibleAtLaunch, QStringLiteral("Main"))) {
         return;
     }
@@ -123,7 +123,6 @@ void ViewController::addNotification() {
 }
 
 void ViewController::addLocal() {
-    // The menus never enable or disable their items by themselves here: the program does.
     appDelegate_ = &delegate_;
     titleMenus(appDelegate_->outlets());
 }

@@ -21,8 +21,8 @@ class RdCustomButton;
 struct Notification;
 
 /// The main view's controller: the start of the window, and the one place where menu commands,
-/// controls and the list's reports arrive. It hands them to the part of the program that they
-/// concern.
+/// controls and the list's reports arrive. It passes each on to the part of the program that it
+/// concerns.
 class ViewController final : public QObject, public DragDropViewDelegate {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ public:
         QFrame* fileListViewBottomLine;
         QFrame* itemInfomationLine;
     };
-    /// What it hands over to.
+    /// What it passes them on to.
     struct Parts {
         Hiding& hiding;
         ItemCommands& itemCommands;
