@@ -1,7 +1,7 @@
 // chflags hidden|nohidden file ...
 //
-// Hides items from the file managers, or shows them again, with the command line of the system
-// command that does so elsewhere. It is started once for each item, so it has to start quickly.
+// Hides items from the file managers, or shows them again; it takes the arguments of the macOS
+// command of that name. It is started once for each item, so it has to start quickly.
 
 #include <cerrno>
 #include <csignal>
@@ -65,7 +65,8 @@ void changeAll(std::vector<Item>& items, bool hidden) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-    // One file that cannot be written, or nobody who listens, must not end the work on the others.
+    // A file that gets too large, or an error message that nobody reads, must not end the work on
+    // the other items.
     signal(SIGXFSZ, SIG_IGN);
     signal(SIGPIPE, SIG_IGN);
 
@@ -86,8 +87,8 @@ int main(int argc, char* argv[]) {
     }
     changeAll(items, flag == "hidden");
 
-    // Now that all files are closed, so that none of them can have the place of a standard error
-    // that was closed at the start.
+    // Only now that all files are closed: if standard error was closed at the start, one of them
+    // may have had its number.
     std::string messages;
     for (const Item& item : items) {
         if (item.problem) {

@@ -21,7 +21,7 @@ public:
     explicit operator bool() const { return descriptor_ >= 0; }
     int get() const { return descriptor_; }
 
-    /// 0, or the error that the file system kept for the last moment.
+    /// 0, or the errno of a write that the file system reports as failed only now.
     int close() {
         const int descriptor = std::exchange(descriptor_, -1);
         return descriptor >= 0 && ::close(descriptor) != 0 ? errno : 0;

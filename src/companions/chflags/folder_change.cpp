@@ -60,8 +60,8 @@ std::vector<Found> findItems(int folder, std::span<Item* const> items) {
     return found;
 }
 
-// File managers look at the item again, since it reports a change; the change is none. A link has
-// no mode, and what it points to is not the item.
+// Sets the mode that the item has already: file managers look at it again on that event. Left out
+// for a link, which has no mode of its own: what it points to is not the item.
 void raiseAttributeEvent(int folder, const char* name) {
     struct stat status {};
     if (fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0 || S_ISLNK(status.st_mode)) {

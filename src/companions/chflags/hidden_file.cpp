@@ -172,7 +172,8 @@ int HiddenFile::lock() {
     if (locked_ || errno != EWOULDBLOCK) {
         return 0;  // a file system without locks must do without
     }
-    // Somebody else is at it. Whoever keeps the folder locked for good must not keep us for good.
+    // Another process has the lock. One that never gives it back must not be waited for without
+    // end.
     struct sigaction interrupt {};
     interrupt.sa_handler = [](int) {};
     sigaction(SIGALRM, &interrupt, nullptr);
@@ -213,7 +214,7 @@ int HiddenFile::save() {
     if (!file) {
         return errno;
     }
-    // The mark goes when the name has gone, so that a killed run leaves nothing without it.
+    // The mark is removed only after the rename, so that what a killed run leaves behind has it.
     const FileDescriptor marked(dup(file.get()));
     int error = fillTemporary(file.get());
     if (error == 0) {
@@ -230,7 +231,8 @@ int HiddenFile::save() {
     return error;
 }
 
-// An empty file that somebody else made stays. Where files cannot be marked nobody can know.
+// An empty file that this command did not create stays. Where files cannot be marked, which would
+// tell, it is removed.
 bool HiddenFile::mayRemove() const {
     return fgetxattr(file_.get(), kCreatedMark, nullptr, 0) >= 0 || errno == ENOTSUP;
 }

@@ -16,13 +16,13 @@
 /// time lose nothing of each other's. Killed at any moment, the file is the old or the new one.
 class HiddenFile final {
 public:
-    /// Locks the folder and reads the file; that there is none is no error. 0 or an errno: EISDIR
-    /// for whatever is there and not a file, ELOOP for a link that is not followed. One is followed
-    /// to an existing file of that name alone, which belongs to the user.
-    /// The folder must outlive the object.
+    /// Locks the folder and reads the file; it need not exist. 0 or an errno: EISDIR for what is
+    /// there and not a file, ELOOP for a link that is not followed, EWOULDBLOCK when another
+    /// process keeps the folder locked for two seconds. A link is followed only to an existing file
+    /// `.hidden` that belongs to the user. `folder` is a descriptor, which must stay open.
     int open(int folder);
 
-    /// Change the text in memory; see HiddenLines.
+    /// These change the text in memory; see HiddenLines.
     std::vector<bool> add(std::span<const std::string_view> names) { return lines_.add(names); }
     std::vector<bool> remove(std::span<const std::string_view> names) {
         return lines_.remove(names);

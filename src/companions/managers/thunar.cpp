@@ -28,6 +28,6 @@ bool Thunar::isReachable() const {
 
 void Thunar::setSetting(std::optional<bool> shown) const {
     setting_.store(shown);
-    // Its own copy of the settings is brought up to date before it answers this.
+    // Thunar updates its own copy of the settings before it answers this call.
     session_.call(service, "/org/xfce/Thunar", "org.gtk.Actions", "List", nullptr, "(as)");
 }

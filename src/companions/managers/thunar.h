@@ -16,11 +16,12 @@ public:
 
     explicit Thunar(const Bus& session) : session_(session) {}
 
-    /// Whether keys reach its windows: an X display, and the command's key as it comes.
+    /// Whether keys reach its windows: there is an X display, and the user has not given the
+    /// command another key.
     bool isReachable() const;
     std::vector<SentKeys::Window> windows() const { return keys_.windowsOf("Thunar"); }
-    /// Turns the display of hidden files over in one window. False when it cannot be sent; what
-    /// comes of it shows in setting().
+    /// Toggles the display of hidden files in one window. False when the key cannot be sent; what
+    /// the window shows then can be read from setting().
     bool toggle(const SentKeys::Window& window) const { return keys_.send(window, 'h', true); }
 
     /// The setting for new windows; none when it was never stored.

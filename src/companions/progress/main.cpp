@@ -1,8 +1,8 @@
 // progress launch|quit TOTAL [WINDOW]
 //
-// Shows how far a pass over the list is, above the X11 window of that number. Standard input is a
-// socket: what is done so far comes in as "DONE\tNAME\0", one byte goes back when the user wants
-// the pass to stop, and the end of the input is the end of the window.
+// Shows how far a pass over TOTAL items is, above the X11 window with that identifier. Standard
+// input is a socket: progress comes in as "DONE\tNAME\0", one byte goes back when the user stops
+// the pass, and the window closes at the end of the input.
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -22,7 +22,7 @@
 namespace {
 
 constexpr int shortestShowing = 400;  // milliseconds; less is a flash
-constexpr int behindThePass = 10;     // of the 20 steps in which a program can give way to others
+constexpr int niceness = 10;          // the pass comes first
 
 /// What comes in, and what the window is to do about it.
 class Follower final : public QObject {
@@ -80,7 +80,7 @@ void putAbove(QWidget& dialog, WId window) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    setpriority(PRIO_PROCESS, 0, behindThePass);
+    setpriority(PRIO_PROCESS, 0, niceness);
     QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const int total = arguments.value(2).toInt();

@@ -4,7 +4,7 @@
 #include <set>
 #include <string>
 
-/// A folder with items that have changed, as the windows that show it know it.
+/// A folder with items that have changed, and how to recognise the windows that show it.
 class Folder final {
 public:
     explicit Folder(std::filesystem::path path);

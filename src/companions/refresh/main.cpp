@@ -27,7 +27,7 @@ using namespace std::chrono_literals;
 constexpr auto untilRepeat = 7s;
 constexpr int repeats = 2;
 constexpr auto longestTelling = 5s;
-constexpr auto longestLife = 30s;  // above all of these, one after another
+constexpr auto longestLife = 30s;  // more than all of it takes, unless tellings are cut short
 
 Items readItems() {
     Items items;
@@ -69,7 +69,7 @@ void tellInBackground(const Items& items, int answered) {
     sigset_t endings;
     sigemptyset(&endings);
     sigaddset(&endings, SIGTERM);
-    sigprocmask(SIG_BLOCK, &endings, nullptr);  // a telling is not left half done
+    sigprocmask(SIG_BLOCK, &endings, nullptr);  // not in the middle of a telling
     endAfter(longestLife);
     setsid();
     if (chdir("/") != 0) {

@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// Longer than the holder needs for what it may be telling.
+/// Longer than a telling may take: the holder ends after the one that it is at.
 constexpr auto patience = 6s;
 
 struct flock wholeFile() {
@@ -26,7 +26,7 @@ struct flock wholeFile() {
     return lock;
 }
 
-/// Unlike other locks, these know their holder.
+/// Uses record locks, since the system tells which process holds one.
 bool takeFromHolder(int descriptor) {
     auto lock = wholeFile();
     if (fcntl(descriptor, F_SETLK, &lock) == 0) {
@@ -79,7 +79,7 @@ void PendingItems::write(const Items& items) const {
         content.append(item).push_back('\0');
     }
     if (ftruncate(descriptor_, 0) == 0) {
-        // Of what finds no room, the last item may be cut short: it is not told again, then.
+        // On a full disk the last item may be cut short; it is then not told again.
         [[maybe_unused]] const auto ignored =
             pwrite(descriptor_, content.data(), content.size(), 0);
     }

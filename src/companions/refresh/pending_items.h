@@ -6,8 +6,8 @@
 /// Paths, each once.
 using Items = std::set<std::string>;
 
-/// What is still to be told in the background, kept where the session keeps its files. One process
-/// of the user and session holds it at a time; its end, however it comes, gives it free.
+/// The items that are still to be told in the background, kept in a file of the session's runtime
+/// folder. One process in a session holds them at a time, until its end, however it comes.
 class PendingItems final {
 public:
     /// Asks the process that holds them to end (by SIGTERM), waits until it has, and holds them
@@ -19,6 +19,7 @@ public:
 
     /// What the last holder had not told to the end.
     Items read() const;
+    /// Replaces what is kept.
     void write(const Items& items) const;
 
 private:

@@ -25,7 +25,7 @@ using Folders = std::vector<Folder>;
 constexpr xcb_keysym_t keyF5 = 0xffc2;
 
 /// Setting the mode, or the owner of a link, to what it is raises an event for the name; file
-/// managers read a single item anew on it. Only the item's owner may, which is no matter.
+/// managers read a single item anew on it. That only the item's owner may do so is ignored.
 void raiseAttributeEvent(const std::filesystem::path& item) {
     struct stat now {};
     if (lstat(item.c_str(), &now) != 0) {
@@ -72,7 +72,7 @@ bool reload(const Bus* accessibility, const char* program, const Folders& folder
     return !windows.empty();
 }
 
-/// Sends the windows of a program the key for it. Programs made with GTK 4 do not take it.
+/// Sends the windows of a program the reload key. Programs made with GTK 4 ignore sent keys.
 bool sendReloadKey(const char* program, const Folders& folders) {
     const SentKeys keys;
     if (!keys.isConnected()) {
@@ -84,8 +84,8 @@ bool sendReloadKey(const char* program, const Folders& folders) {
     });
 }
 
-/// Reload reads the items anew, but only showing and hiding the hidden ones sorts them anew.
-/// Two keys that arrive together leave nothing to be seen in between.
+/// Toggles the display of hidden files twice: Thunar's reload reads the items anew, but only this
+/// makes it decide anew which of them to list. It handles both keys before it paints.
 bool refreshThunar(const Thunar& thunar, const Folders& folders) {
     if (!thunar.isReachable()) {
         return false;
@@ -101,7 +101,7 @@ bool refreshThunar(const Thunar& thunar, const Folders& folders) {
         }
         pressed = true;
     }
-    // Each key stores what its window shows after it; the setting is not ours to change.
+    // Each key stores what its window shows after it; the setting must end as it was before.
     const auto shown = before.value_or(false);
     if (pressed && waitFor(300ms, [&] { return thunar.setting() != shown; }) &&
         !waitFor(300ms, [&] { return thunar.setting() == shown; })) {

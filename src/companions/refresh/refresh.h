@@ -14,5 +14,5 @@ struct Unreached {
 /// Makes the open windows of the desktop's file managers that show the folders of these items
 /// look again at what is hidden there. Selections, scroll positions and the keyboard focus stay;
 /// of the items nothing changes but the time of their last change of attributes.
-/// With `onlyWrong`, windows that are seen to list the items as they should are left in peace.
+/// With `onlyWrong`, windows that are seen to list the items as they should are left alone.
 std::vector<Unreached> refreshWindows(const Items& items, bool onlyWrong);
