@@ -345,7 +345,7 @@ die Sie verstecken und wieder zeigen</translation>
     <name>DragDropTableView</name>
     <message>
         <source>Reveal in the file manager</source>
-        <translation>In der Dateiverwaltung zeigen</translation>
+        <translation>Im Dateimanager zeigen</translation>
     </message>
     <message>
         <source>Remove from the list</source>
@@ -376,19 +376,19 @@ die Sie verstecken und wieder zeigen</translation>
     <name>DragDropView</name>
     <message>
         <source>&amp;Reveal in File Manager</source>
-        <translation>In der Dateiverwaltung &amp;zeigen</translation>
+        <translation>Im Dateimanager &amp;zeigen</translation>
     </message>
     <message>
         <source>Re&amp;move from List</source>
         <translation>Aus der Liste &amp;entfernen</translation>
     </message>
     <message>
-        <source>Some of the dropped items could not be added: their names or places are not files on this computer that can be written as text.</source>
+        <source>Some of the dropped items could not be added: they are not on this computer, or their names are not valid text.</source>
         <translation>Einige der abgelegten Objekte konnten nicht hinzugefügt werden: Sie liegen nicht auf diesem Computer, oder ihr Name ist kein gültiger Text.</translation>
     </message>
     <message>
         <source>“%1” stays hidden: to get it back, add it again and press the switch twice.</source>
-        <translation>„%1“ bleibt versteckt: Um es zurückzuholen, fügen Sie es wieder hinzu und drücken den Schalter zweimal.</translation>
+        <translation>„%1“ bleibt versteckt: Um es zurückzuholen, fügen Sie es wieder hinzu und drücken Sie den Schalter zweimal.</translation>
     </message>
     <message>
         <source>“%1” was in the list already: it has been taken out, and the rest of the drop was not added.</source>
@@ -445,7 +445,7 @@ die Sie verstecken und wieder zeigen</translation>
     </message>
     <message>
         <source>Hide the files; those that are not listed are added.</source>
-        <translation>Die Dateien verstecken; fehlende kommen in die Liste.</translation>
+        <translation>Die Dateien verstecken; solche, die nicht in der Liste stehen, werden hinzugefügt.</translation>
     </message>
     <message>
         <source>Show the files that are listed.</source>
@@ -469,7 +469,7 @@ die Sie verstecken und wieder zeigen</translation>
     </message>
     <message>
         <source>Only one of --hide, --show and --show-all can be given.</source>
-        <translation>Nur eines von --hide, --show und --show-all ist möglich.</translation>
+        <translation>Es kann nur eine der Optionen --hide, --show und --show-all angegeben werden.</translation>
     </message>
     <message>
         <source>No file was given.</source>
@@ -477,7 +477,7 @@ die Sie verstecken und wieder zeigen</translation>
     </message>
     <message>
         <source>--show-all takes no files.</source>
-        <translation>--show-all nimmt keine Dateien.</translation>
+        <translation>Mit --show-all können keine Dateien angegeben werden.</translation>
     </message>
 </context>
 <context>
@@ -488,11 +488,11 @@ die Sie verstecken und wieder zeigen</translation>
     </message>
     <message>
         <source>its name holds a line break, which file managers cannot hide.</source>
-        <translation>Der Name enthält einen Zeilenumbruch, den Dateiverwaltungen nicht verstecken können.</translation>
+        <translation>Der Name enthält einen Zeilenumbruch, den Dateimanager nicht verstecken können.</translation>
     </message>
     <message>
         <source>the command did not come to an end.</source>
-        <translation>Der Befehl kam zu keinem Ende.</translation>
+        <translation>Der Befehl wurde nicht fertig.</translation>
     </message>
     <message>
         <source>its folder cannot be written.</source>
@@ -522,8 +522,8 @@ die Sie verstecken und wieder zeigen</translation>
         <translation>Nicht alles wurde erledigt: Das Programm sollte sich beenden.</translation>
     </message>
     <message>
-        <source>Some of the given names are not files on this computer that can be written as text.</source>
-        <translation>Einige der angegebenen Namen sind keine Dateien auf diesem Computer, deren Name gültiger Text ist.</translation>
+        <source>Some of the given names were left out: they are not files on this computer, or not valid text.</source>
+        <translation>Einige der angegebenen Namen wurden ausgelassen: Sie bezeichnen keine Dateien auf diesem Computer oder sind kein gültiger Text.</translation>
     </message>
     <message>
         <source>“%1” is not in the list.</source>

@@ -383,7 +383,7 @@ et affichez figurent ici</translation>
         <translation>&amp;Retirer de la liste</translation>
     </message>
     <message>
-        <source>Some of the dropped items could not be added: their names or places are not files on this computer that can be written as text.</source>
+        <source>Some of the dropped items could not be added: they are not on this computer, or their names are not valid text.</source>
         <translation>Certains des éléments déposés n’ont pas pu être ajoutés : ils ne se trouvent pas sur cet ordinateur, ou leur nom n’est pas un texte valide.</translation>
     </message>
     <message>
@@ -445,7 +445,7 @@ et affichez figurent ici</translation>
     </message>
     <message>
         <source>Hide the files; those that are not listed are added.</source>
-        <translation>Masquer les fichiers ; ceux qui ne sont pas dans la liste y sont ajoutés.</translation>
+        <translation>Masquer les fichiers ; ceux qui ne sont pas dans la liste y sont ajoutés.</translation>
     </message>
     <message>
         <source>Show the files that are listed.</source>
@@ -519,23 +519,23 @@ et affichez figurent ici</translation>
     <name>ListRequest</name>
     <message>
         <source>Not everything was done: the program was asked to end.</source>
-        <translation>Tout n’a pas été fait : le programme a dû se terminer.</translation>
+        <translation>Tout n’a pas été fait : le programme a dû se terminer.</translation>
     </message>
     <message>
-        <source>Some of the given names are not files on this computer that can be written as text.</source>
-        <translation>Certains des noms indiqués ne sont pas des fichiers de cet ordinateur dont le nom est un texte valide.</translation>
+        <source>Some of the given names were left out: they are not files on this computer, or not valid text.</source>
+        <translation>Certains des noms indiqués ont été ignorés : ils ne désignent pas des fichiers de cet ordinateur ou ne sont pas un texte valide.</translation>
     </message>
     <message>
         <source>“%1” is not in the list.</source>
-        <translation>« %1 » n’est pas dans la liste.</translation>
+        <translation>« %1 » n’est pas dans la liste.</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>
-        <translation>« %1 » n’existe pas.</translation>
+        <translation>« %1 » n’existe pas.</translation>
     </message>
     <message>
         <source>The list is locked: unlock it in Velmora’s window first.</source>
-        <translation>La liste est verrouillée : déverrouillez-la d’abord dans la fenêtre de Velmora.</translation>
+        <translation>La liste est verrouillée : déverrouillez-la d’abord dans la fenêtre de Velmora.</translation>
     </message>
 </context>
 <context>
@@ -563,7 +563,7 @@ et affichez figurent ici</translation>
     <name>RDWindowController</name>
     <message>
         <source>Quit all the same, and lose the changes?</source>
-        <translation>Quitter quand même et perdre les modifications ?</translation>
+        <translation>Quitter quand même et perdre les modifications ?</translation>
     </message>
     <message>
         <source>Quit</source>
@@ -578,11 +578,11 @@ et affichez figurent ici</translation>
     <name>UserDefaults</name>
     <message>
         <source>The settings cannot be read, so the list is closed for now: %1</source>
-        <translation>Les réglages ne peuvent pas être lus ; la liste est donc fermée pour le moment : %1</translation>
+        <translation>Les réglages ne peuvent pas être lus ; la liste est donc fermée pour le moment : %1</translation>
     </message>
     <message>
         <source>The settings were missing; the last good copy is used.</source>
-        <translation>Les réglages étaient absents ; la dernière bonne copie est utilisée.</translation>
+        <translation>Les réglages étaient absents ; la dernière bonne copie est utilisée.</translation>
     </message>
     <message>
         <source>The settings held no proper item list. They were kept as “%1” before the new list was saved.</source>
@@ -598,11 +598,11 @@ et affichez figurent ici</translation>
     </message>
     <message>
         <source>The settings could not be read. They were kept as “%1”, and there was no good copy to use instead.</source>
-        <translation>Les réglages n’ont pas pu être lus. Ils ont été conservés sous « %1 » ; il n’y avait pas de bonne copie.</translation>
+        <translation>Les réglages n’ont pas pu être lus. Ils ont été conservés sous « %1 » ; il n’y avait pas de bonne copie.</translation>
     </message>
     <message>
         <source>The settings file “%1” could not be used and could not be kept under another name, so changes are not saved.</source>
-        <translation>Le fichier de réglages « %1 » est inutilisable et n’a pas pu être renommé ; les changements ne sont pas enregistrés.</translation>
+        <translation>Le fichier de réglages « %1 » est inutilisable et n’a pas pu être renommé ; les changements ne sont pas enregistrés.</translation>
     </message>
 </context>
 <context>

@@ -383,7 +383,7 @@
         <translation>从列表中移除(&amp;M)</translation>
     </message>
     <message>
-        <source>Some of the dropped items could not be added: their names or places are not files on this computer that can be written as text.</source>
+        <source>Some of the dropped items could not be added: they are not on this computer, or their names are not valid text.</source>
         <translation>部分拖入的项目无法添加：它们不在这台电脑上，或名称不是有效的文本。</translation>
     </message>
     <message>
@@ -522,8 +522,8 @@
         <translation>并非全部完成：程序被要求结束。</translation>
     </message>
     <message>
-        <source>Some of the given names are not files on this computer that can be written as text.</source>
-        <translation>给出的某些名称不是此电脑上名称为有效文本的文件。</translation>
+        <source>Some of the given names were left out: they are not files on this computer, or not valid text.</source>
+        <translation>部分给出的名称已被忽略：它们不是这台电脑上的文件，或不是有效的文本。</translation>
     </message>
     <message>
         <source>“%1” is not in the list.</source>

@@ -40,8 +40,8 @@ RequestOutcome carryOut(const FileRequest& request, ItemList& list, Hiding& hidi
     RequestOutcome outcome;
     if (request.someAreNoFiles) {
         outcome.sentences << text(
-            "Some of the given names are not files on this computer that can "
-            "be written as text.");
+            "Some of the given names were left out: they are not files on this computer, or not "
+            "valid text.");
     }
     const bool changes = request.kind != Kind::Add;
     const bool visible = request.kind != Kind::Hide;

@@ -64,8 +64,8 @@ bool DragDropView::prepareForDragOperation(const QMimeData* mimeData) {
         fileLists_.emplace();
     }
     emit happened(dropped.someUnreadable
-                      ? tr("Some of the dropped items could not be added: their names or places "
-                           "are not files on this computer that can be written as text.")
+                      ? tr("Some of the dropped items could not be added: they are not on this "
+                           "computer, or their names are not valid text.")
                       : QString());
     if (dropped.paths.isEmpty()) {
         return true;
