@@ -36,7 +36,7 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "hicolor-icon-theme, qt6-svg-plugins | libqt6svg6 (<< 6.7.2-5~), qt6-qpa-plugins")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
     "shared-mime-info, xdg-utils, at-spi2-core, qt6-gtk-platformtheme, qt6-translations-l10n, qt6-wayland")
-# What shows the entry of the menus in managers that do not show it by themselves.
+# File managers that need one of these to show the entry in their menus.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
     "python3-nautilus, caja-actions, libfm-modules")
 set(CPACK_DEBIAN_PACKAGE_ENHANCES "nautilus, dolphin, nemo, caja, thunar, pcmanfm-qt, pcmanfm")

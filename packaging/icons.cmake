@@ -1,5 +1,5 @@
-# Draws the application icon as pictures while building, with a small program of our own: Qt Svg is
-# needed anyway, a converter besides it is not.
+# Draws the application icon as pictures while building, with a small program of the project: Qt Svg
+# is needed anyway, and so no converter has to be installed.
 add_executable(render_icon render_icon.cpp)
 set_target_properties(render_icon PROPERTIES
   AUTOMOC OFF
