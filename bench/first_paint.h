@@ -8,9 +8,9 @@
 #include <QApplication>
 #include <QMainWindow>
 
-/// Tells on standard output, in nanoseconds of the monotonic clock, when the first main window of
-/// this process was painted and handed to the display. Ends the process then, unless it is to stay
-/// for its memory to be looked at (STAY in the environment).
+/// Prints on standard output, in nanoseconds of the monotonic clock, when the first main window of
+/// this process was painted and handed to the display. Then ends the process, unless STAY is in the
+/// environment, so that its memory can be measured.
 class FirstPaint final : public QObject {
 public:
     FirstPaint() { QCoreApplication::instance()->installEventFilter(this); }
@@ -19,7 +19,7 @@ public:
         if (!seen_ && event->type() == QEvent::Paint && object->isWidgetType() &&
             qobject_cast<QMainWindow*>(static_cast<QWidget*>(object)->window()) != nullptr) {
             seen_ = true;
-            // Next after the whole window was painted and flushed.
+            // Delivered once the whole window was painted and flushed.
             QCoreApplication::postEvent(this, new QEvent(QEvent::User), Qt::HighEventPriority);
         }
         return false;

@@ -11,8 +11,8 @@ void run(const QString& commandLine) {
     [[maybe_unused]] const int status = std::system(commandLine.toUtf8().constData());
 }
 
-// Milliseconds for the shortest command there is. Before and after a pass: a machine that is busy
-// for a while does not take one for the other.
+// Milliseconds for the shortest command. Measured before and after a pass, so that a machine that
+// is busy for a while affects the floor as well.
 double floorOfOne() {
     constexpr int times = 250;
     const auto work = [] {

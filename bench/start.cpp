@@ -11,7 +11,7 @@ void watch() {
 
 Q_COREAPP_STARTUP_FUNCTION(watch)
 
-/// The program itself, watched.
+/// The program itself, with FirstPaint in it.
 int main(int argc, char** argv) {
     return launch(argc, argv);
 }

@@ -1,5 +1,5 @@
-# What only the macOS program is made of. It is plain C++ and compiled everywhere, so that it keeps
-# up with the headers it stands behind; elsewhere nothing is linked with it.
+# The sources that only the macOS program has. They are plain C++ and compiled everywhere, so that
+# they keep up with their headers; on other systems nothing is linked with them.
 if(APPLE)
   return()
 endif()

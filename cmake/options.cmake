@@ -7,7 +7,7 @@ set(VELMORA_HELP_URL "" CACHE STRING
 
 add_library(velmora_flags INTERFACE)
 target_compile_options(velmora_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow)
-add_compile_options(-Wconversion -Wno-sign-conversion)  # by folder: the tests do without
+add_compile_options(-Wconversion -Wno-sign-conversion)  # not in velmora_flags: the tests turn it off
 if(VELMORA_WERROR)
   target_compile_options(velmora_flags INTERFACE -Werror)
 endif()
@@ -17,7 +17,7 @@ if(VELMORA_SANITIZE)
   target_link_options(velmora_flags INTERFACE -fsanitize=address,undefined)
 endif()
 if(VELMORA_FUZZERS)
-  # RapidJSON adds an offset to the null pointer of a stack that is still empty; all else counts.
+  # RapidJSON adds an offset to the null pointer of a stack that is still empty.
   target_compile_options(velmora_flags INTERFACE -O1 -fsanitize=fuzzer-no-link
                                                  -fno-sanitize=pointer-overflow)
 endif()
