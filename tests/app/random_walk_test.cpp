@@ -69,13 +69,13 @@ public:
     static qsizetype descriptors() {
         return QDir("/dev/fd").entryList(QDir::AllEntries | QDir::System).size();
     }
-    /// Until nothing is under way and input is taken again.
+    /// Waits until no work is pending and input is taken again.
     void settle() {
         heard_ = false;
         QVERIFY(QTest::qWaitFor([this] {
             QCoreApplication::processEvents();
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            // A question, also the one after a locked start, which comes when it comes: cancelled.
+            // Cancels any dialog, also the one that a locked start opens a second later.
             if (auto* dialog = main_->window().findChild<QDialog*>()) {
                 dialog->reject();
             }

@@ -15,12 +15,12 @@ public:
     ~Sandbox();
 
     QString folder() const { return folder_.path(); }
-    /// Makes an empty file, with its path.
+    /// Makes an empty file in the folder "files"; its path.
     QString makeFile(const QString& name) const;
     QStringList makeFiles(const QStringList& names) const;
     /// The commands that the shell was given since the last call, "chflags|hidden|/a b" each.
     QStringList commands() const;
-    /// What the recorded command of that name does from now on besides; its record comes first.
+    /// From now on the command of that name also runs this script, after it was recorded.
     void setCommand(const QString& name, const QString& script) const;
     /// Waits for what the file managers are told next: the names of the changed items, in order.
     QStringList told() const;

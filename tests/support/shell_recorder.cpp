@@ -47,7 +47,8 @@ int kill(pid_t, int) noexcept {
     return refuse("kill");
 }
 int open64(const char* path, int flags, ...) {
-    // Libraries look users up and mark their files so; the shell's own are for what it starts.
+    // Libraries that look users up open files with O_CLOEXEC; the shell opens those for a
+    // redirection without it.
     return (flags & O_CLOEXEC) != 0 ? openFile(path, flags) : refuse("open", path);
 }
 }

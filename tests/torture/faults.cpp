@@ -68,7 +68,7 @@ long call(const char* name, Place place, long number, Arguments... arguments) {
 
 }  // namespace
 
-// The mode arrives in the same place, and counts for nothing where no file is made.
+// Declared without `...`: the mode arrives in the same register; without O_CREAT it is ignored.
 extern "C" int openPath(const char* path, int flags, unsigned mode) __asm__("open");
 extern "C" int open64At(const char* path, int flags, unsigned mode) __asm__("open64");
 extern "C" int openAt(int folder, const char* path, int flags, unsigned mode) __asm__("openat");
@@ -94,7 +94,7 @@ ssize_t read(int file, void* data, size_t size) {
 ssize_t write(int file, const void* data, size_t size) {
     return pass("write", {file}, size, [=](size_t n) { return syscall(SYS_write, file, data, n); });
 }
-// Only processes end here, not the machine, and disks are slow.
+// Does not wait for the disk: only processes are killed here, not the machine.
 int fsync(int file) { return call("fsync", {file}, SYS_getpid) < 0 ? -1 : 0; }
 int close(int file) { return call("close", {file}, SYS_close, file); }
 int flock(int file, int how) noexcept { return call("flock", {file}, SYS_flock, file, how); }
