@@ -122,8 +122,8 @@ pid_t spawnShell(const QString& commandLine, Mode mode, Pipe& pipe, bool outputW
     return child;
 }
 
-// Waits for a line: gathers what comes through the pipe until that ends, the time
-// is up or the program is asked to end. No event is handled meanwhile.
+// Waits for a line: gathers what comes through the pipe until that ends, the time is up or the
+// program is asked to end. No event is handled meanwhile.
 Shell::Ending gather(const Pipe& pipe, QByteArray& bytes) {
     QElapsedTimer timer;
     timer.start();

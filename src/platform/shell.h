@@ -25,7 +25,7 @@ public:
     enum class Ending {
         ByItself,
         TimeUp,       ///< killed after the longest time
-        Interrupted,  ///< killed because the program, or the work that waits, is to end
+        Interrupted,  ///< killed because the program is to end, or a WhileWaiting said so
     };
 
     /// Runs the line. Its standard input is empty; what it prints goes where the program's own
