@@ -518,6 +518,10 @@ die Sie verstecken und wieder zeigen</translation>
 <context>
     <name>ListRequest</name>
     <message>
+        <source>Nothing was changed: no command could be started.</source>
+        <translation>Nichts wurde geändert: Es konnte kein Befehl gestartet werden.</translation>
+    </message>
+    <message>
         <source>Not everything was done: the program was asked to end.</source>
         <translation>Nicht alles wurde erledigt: Das Programm sollte sich beenden.</translation>
     </message>

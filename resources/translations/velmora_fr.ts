@@ -518,6 +518,10 @@ et affichez figurent ici</translation>
 <context>
     <name>ListRequest</name>
     <message>
+        <source>Nothing was changed: no command could be started.</source>
+        <translation>Rien n’a été modifié : aucune commande n’a pu être lancée.</translation>
+    </message>
+    <message>
         <source>Not everything was done: the program was asked to end.</source>
         <translation>Tout n’a pas été fait : le programme a dû se terminer.</translation>
     </message>

@@ -518,6 +518,10 @@
 <context>
     <name>ListRequest</name>
     <message>
+        <source>Nothing was changed: no command could be started.</source>
+        <translation>未作任何更改：无法启动任何命令。</translation>
+    </message>
+    <message>
         <source>Not everything was done: the program was asked to end.</source>
         <translation>并非全部完成：程序被要求结束。</translation>
     </message>

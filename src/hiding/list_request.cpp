@@ -4,6 +4,7 @@
 #include <QHash>
 
 #include "hiding/hiding.h"
+#include "platform/exceptions.h"
 #include "platform/file_attributes.h"
 #include "platform/shown_text.h"
 
@@ -53,8 +54,13 @@ RequestOutcome carryOut(const FileRequest& request, ItemList& list, Hiding& hidi
                          }
                      });
     QHash<QString, QList<qsizetype>> rows = rowsByPath(list);
-    if (changes) {
-        hiding.resetShowAll();
+    try {
+        if (changes) {
+            hiding.resetShowAll();
+        }
+    } catch (const LaunchException&) {
+        outcome.sentences << text("Nothing was changed: no command could be started.");
+        return outcome;
     }
     for (const QString& path : request.kind == Kind::ShowAll ? pathsOf(list) : request.paths) {
         if (!rows.contains(path)) {

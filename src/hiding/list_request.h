@@ -17,8 +17,8 @@ struct RequestOutcome {
 /// that are not listed, marked visible; Hide, Show and ShowAll then run one command line for each
 /// path and mark all its records. What cannot be done (a path that does not exist, or is not listed
 /// when it is to be shown) is skipped and told in the outcome. Stops when the program is asked to
-/// end. Blocks; throws LaunchException as Hiding::resetShowAll() does. The caller makes sure that
-/// the list may be changed, stores it afterwards and calls `request.answer`.
+/// end; when no command can be started at all, nothing is changed. Blocks. The caller makes sure
+/// that the list may be changed, stores it afterwards and calls `request.answer`.
 RequestOutcome carryOut(const FileRequest& request, ItemList& list, Hiding& hiding);
 
 /// The translated sentence for a request that is refused because the list is locked.

@@ -1,6 +1,7 @@
 #include "platform/termination_signals.h"
 
 #include <csignal>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -51,6 +52,7 @@ TerminationSignals::~TerminationSignals() {
     for (const int number : handledSignals) {
         std::signal(number, SIG_DFL);
     }
-    close(ends[0]);
-    close(ends[1]);
+    for (int& end : ends) {
+        close(std::exchange(end, -1));
+    }
 }
