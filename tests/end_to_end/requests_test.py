@@ -16,7 +16,15 @@ class Requests(Story):
         return done.returncode, done.stderr
 
     def both(self, items):
-        """The requests that are answered in the same way with and without a window."""
+        """The requests that are answered in the same way with and without a window. What was not
+        done is told the desktop too, once each time: nobody reads standard error."""
+        log = self.home.folder / "told"
+        with open(log, "wb") as told:
+            monitor = subprocess.Popen([*desktop.BOUND, "dbus-monitor", "member=Notify"],
+                                       stdout=told)
+        self.addCleanup(monitor.wait)
+        self.addCleanup(monitor.kill)
+        wait(log.read_bytes, "it listens")
         self.assertEqual(self.velmora("--hide", "--", "b c", "-d\"% ü", "b c"), (0, ""))
         self.assertEqual([self.home.hidden(item) for item in items], [False, True, True])
         self.assertEqual(self.velmora("--hide", "-d", "nope")[0], 2)
@@ -28,6 +36,8 @@ class Requests(Story):
         self.assertEqual(self.velmora("--show-all"), (0, ""))
         self.assertFalse(any(map(self.home.hidden, items)))
         self.assertEqual(self.velmora("--hide", "a"), (0, ""))
+        wait(lambda: log.read_text().count("“e” is not in the list.") == 1, log.read_text)
+        self.assertEqual(log.read_text().count("member=Notify"), 2)
 
     def test_without_a_window(self):
         items = self.home.make("a", "b c", "-d\"% ü")
