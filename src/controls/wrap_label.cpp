@@ -15,6 +15,8 @@
 namespace {
 
 qreal layOut(QTextLayout& layout, int width, Qt::Alignment alignment) {
+    // The layout takes no plain line break.
+    layout.setText(layout.text().replace(u'\n', QChar::LineSeparator));
     QTextOption option(alignment);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);

@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A label for one long word, such as a path: breaks it wherever the width ends, so that nothing
-/// is cut off and its text stays exactly what was set.
+/// A label for texts with long words, such as a path: breaks them wherever the width ends, so that
+/// nothing is cut off, no width is asked for, and its text stays exactly what was set.
 class WrapLabel final : public QLabel {
     Q_OBJECT
 

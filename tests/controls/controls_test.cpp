@@ -92,6 +92,8 @@ private slots:
             blank.fill(picture.pixelColor(picture.rect().bottomRight()));
             QVERIFY(cut != blank);
         }
+        label.setText("two\nlines");
+        QCOMPARE(label.heightForWidth(5000), 2 * line);
     }
 
     void putsThePreferencesIntoTheirFrames() {
@@ -107,6 +109,7 @@ private slots:
 
     void cutsNothingOffInAnyLanguageAtAnyFontSize() {
         const QFont usual = QApplication::font();
+        const QString longName(240, 'x');
         for (const QString& table : QDir(":/translations").entryList({"*.qm"})) {
             QTranslator language;
             QVERIFY(language.load(":/translations/" + table));
@@ -114,7 +117,7 @@ private slots:
             for (const int points : {9, 14, 24}) {
                 QApplication::setFont(QFont(usual.family(), points));
                 ListWindow w(points == 14 ? QStringList() : QStringList{"a"});
-                w.ui.quietLine->setText(QString("Quiet words. ").repeated(20));
+                w.ui.quietLine->setText(QString("Quiet words. ").repeated(20) + longName);
                 w.ui.quietLine->show();
                 RDTwoWindowController preferences;
                 RDPasswordViewController password;
@@ -125,6 +128,7 @@ private slots:
                     window->resize(1, 1);
                     QCoreApplication::processEvents();
                     verifyNothingIsCutOff(*window);
+                    QVERIFY(window->width() < window->fontMetrics().horizontalAdvance(longName));
                 }
             }
         }
