@@ -51,6 +51,10 @@ void ListState::refresh() {
 }
 
 void ListState::showHint(Gate gate) {
+    if (gate == shownGate_) {
+        return;
+    }
+    shownGate_ = gate;
     QString hint;
     switch (gate) {
         case Gate::Open:
@@ -68,9 +72,6 @@ void ListState::showHint(Gate gate) {
             break;
         case Gate::StoreUnread:
             break;
-    }
-    if (hint == outlets_.invitationHint->text()) {
-        return;
     }
     outlets_.invitationHint->setText(hint);
     if (outlets_.invitationHint->isVisible()) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QObject>
 
@@ -44,4 +45,5 @@ private:
 
     Outlets outlets_;
     std::function<bool()> canEditorItem_;
+    std::optional<Gate> shownGate_;
 };
