@@ -91,6 +91,8 @@ bool DragDropView::prepareForDragOperation(const QMimeData* mimeData) {
     selectionReport();
     tableView_->reloadData();
     tableView_->setCurrentRow(selectRowIndex_);
+    // The current row stays, so that nothing else would tell of rows that are out of view.
+    tableView_->scrollToRow(static_cast<int>(count()) - 1);
     return true;
 }
 

@@ -141,7 +141,10 @@ private slots:
         Fixture f({"a", "b", "c"});
         const QStringList fresh = f.makeFiles({"d", "e"});
         f.log();
+        f.view.resize(300, 150);
         drop(f.view, {fresh.at(0), fresh.at(1), fresh.at(1), f.folder() + "/files/"});
+        const QRect last = f.table()->visualRect(f.table()->model()->index(5, 0));
+        QVERIFY(f.table()->viewport()->rect().contains(last));
         QCOMPARE(f.stored(), QString("a:\"1\" b:\"1\" c:\"1\" d:\"1\" e:\"1\" files:\"1\""));
         QVERIFY(f.log().first().startsWith(">>> ({filePath = "));
         QMimeData promised;
