@@ -40,7 +40,8 @@ struct Model : Kept {
     QStringList list;
     QString pane = "none";
     bool verified = false, canDrop = false, on = true, canSwitch = false, canOpen = false;
-    int current = 0, selected = -1;
+    bool ascends[2] = {};  // the two buttons of the header
+    int current = 0, selected = -1, sorted = -1;
 
     int last() const { return static_cast<int>(list.size()) - 1; }
     qsizetype find(QString name) const { return list.indexOf(QRegularExpression(name + ":.*")); }
@@ -56,7 +57,7 @@ struct Model : Kept {
     }
     void load() {
         list = stored;
-        current = 0;
+        current = sorted = 0;
         report();
     }
     void start() {
@@ -133,9 +134,11 @@ struct Model : Kept {
             report();
         }
     }
-    void sort(bool ascending) {
+    void sort(int by) {
+        ascends[by] ^= sorted < 0 || by == sorted;
+        sorted = by;
         std::stable_sort(list.begin(), list.end(), [&](const QString& one, const QString& other) {
-            return ascending ? nameOf(one) < nameOf(other) : nameOf(other) < nameOf(one);
+            return ascends[by] ? nameOf(one) < nameOf(other) : nameOf(other) < nameOf(one);
         });
     }
     void answer(bool setsPassword, const QString& typed, bool save) {

@@ -217,9 +217,9 @@ private:
     }
     void sort() {
         const TopView& header = *ui().fileListView->topViw();
-        ItemButton* button = pick(2) == 0 ? header.leftButton() : header.rightButton();
-        click(button);
-        model_.sort(button->on());
+        const int by = pick(2);
+        click(by == 0 ? header.leftButton() : header.rightButton());
+        model_.sort(by);
     }
     void protect() {
         const bool sets = model_.canEdit() && (model_.password.isEmpty() || pick(3) == 0);

@@ -19,27 +19,19 @@ private:
     struct Fixture : Stored {
         explicit Fixture(const QStringList& names) : Stored(names) {
             view.resize(400, 400);
-            view.setDelegate(&delegate);
             view.setCanDragDrop(true);
             view.setFileLists(defaults().itemList());
-            view.topViw()->activateLeftButton();
             view.selectTableViewCellForRowIndex(0);
             view.show();
-            delegate.take();
         }
         DragDropTableView* table() { return view.tableView(); }
         QPoint inRow(int row, int x = 60) { return {x, row * table()->rowHeight() + 20}; }
-        void click(int row) {
-            QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, inRow(row));
-        }
         void hover(int row, int x) {
             const QPoint at = inRow(row, x);
             QMouseEvent move(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, {});
             QCoreApplication::sendEvent(table()->viewport(), &move);
         }
-        QString shown() { return describe(view.fileLists().value()); }
 
-        RecordingDelegate delegate;
         DragDropView view;
     };
 
@@ -61,48 +53,11 @@ private slots:
         }
     }
 
-    void reportsRemovalsOnlyWhereTheCurrentRowIsConcerned() {
-        Fixture f({"a", "b", "c", "d", "e", "f"});
-        const auto remove = [&f](int current, int removed) {
-            f.view.selectTableViewCellForRowIndex(current);
-            f.delegate.take();
-            f.hover(removed, 380);
-            f.log();
-            const QString path = f.view.fileLists()->at(removed).filePath();
-            QTest::mouseClick(f.table()->deletedButton(), Qt::LeftButton);
-            return f.log() == QStringList{"delated:" + path}
-                       ? f.delegate.take().join(u' ') + QString::number(f.view.selectRowIndex())
-                       : "not logged";
-        };
-        QCOMPARE(remove(1, 1), QString("c1"));  // the current row, with others behind it
-        QCOMPARE(remove(4, 3), QString("f3"));  // before the last row, which is current
-        QCOMPARE(remove(2, 0), QString("2"));   // before the current row
-        QCOMPARE(remove(0, 2), QString("0"));   // behind it
-        QCOMPARE(remove(1, 1), QString("0"));   // the current row, which is the last
-        QCOMPARE(f.stored(), QString("c:\"1\""));
-        QCOMPARE(remove(0, 0), QString("nil-1"));
-        QCOMPARE(f.stored(), QString());
-    }
-
-    void choosesNoRowInTheUsersPlace() {
-        Fixture f({"a", "b", "c", "d"});
-        const auto removeLast = [&f] {
-            f.view.selectTableViewCellForRowIndex(static_cast<int>(f.view.count()) - 1);
-            f.view.removeCurrentRecord();
-            f.delegate.take();
-        };
-        removeLast();
-        f.click(2);
-        f.click(2);  // nothing changes, nothing is reported
-        QCOMPARE(f.delegate.take(), QStringList{"c"});
-        f.click(6);
-        removeLast();
-        drop(f.view, {f.makeFile("e")});
-        QCOMPARE(f.delegate.take(), QStringList{"a"});
-        f.click(1);
+    void takesNoClickForAnotherRow() {
+        Fixture f({"a", "b"});
+        f.view.selectTableViewCellForRowIndex(1);
         QTest::mouseClick(f.table()->viewport(), Qt::RightButton, {}, f.inRow(6));
-        QCOMPARE(f.delegate.take(), QStringList{"b"});
-
+        QCOMPARE(f.view.selectRowIndex(), 1);
         QSignalSpy opened(f.table(), &DragDropTableView::doubleAction);
         f.hover(0, 390);
         QTest::mouseClick(f.table()->deletedButton(), Qt::LeftButton);
@@ -124,17 +79,6 @@ private slots:
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(f.table()->viewport(), &leave);
         QVERIFY(!f.table()->deletedButton()->isVisible());
-    }
-
-    void sortsByTitleFromBothButtons() {
-        Fixture f({"b", "C", "a"});
-        TopView* header = f.view.topViw();
-        QTest::mouseClick(header->leftButton(), Qt::LeftButton);  // active: flips to ascending
-        QCOMPARE(f.shown(), QString("C:\"1\" a:\"1\" b:\"1\""));
-        QTest::mouseClick(header->rightButton(), Qt::LeftButton);  // inactive: does not flip
-        QCOMPARE(f.shown(), QString("b:\"1\" a:\"1\" C:\"1\""));
-        QVERIFY(header->leftButton()->isPaixuImageHidden());
-        QCOMPARE(f.delegate.take(), QStringList());
     }
 
     void takesDrops() {

@@ -42,16 +42,5 @@ private:
     std::unique_ptr<UserDefaults> defaults_;
 };
 
-/// Writes down the selection reports: a title, or "nil".
-class RecordingDelegate final : public DragDropViewDelegate {
-public:
-    void selectedTableLists(const ItemRecord* record) override {
-        reports << (record != nullptr ? record->fileTitle() : QStringLiteral("nil"));
-    }
-    QStringList take() { return std::exchange(reports, {}); }
-
-    QStringList reports;
-};
-
 /// A drop of these paths, through the view's real event handler.
 void drop(DragDropView& view, const QStringList& paths);
