@@ -1,19 +1,7 @@
 #include <QLineEdit>
 
-#include "platform/notification_center.h"
-#include "platform/notification_names.h"
 #include "state/preference_keys.h"
 #include "window.h"
-
-namespace {
-
-/// As a file manager reads it: these names, one on each line, are hidden.
-void hideByName(const Sandbox& sandbox, const QByteArray& names) {
-    QFile hidden(sandbox.folder() + "/files/.hidden");
-    QVERIFY(hidden.open(QIODevice::WriteOnly) && hidden.write(names) == names.size());
-}
-
-}  // namespace
 
 /// The main window while it is used.
 class MainWindowTest final : public QObject {
@@ -59,7 +47,7 @@ private slots:
         };
         // The command of this test hides nothing.
         QCOMPARE(said(), QString("“a” is still visible: the change was not carried out."));
-        hideByName(w, "A\n\na\nb");
+        write(w.folder() + "/files/.hidden", "A\n\na\nb");  // as a file manager reads it
         QCOMPARE(said(), QString("“a” is still hidden: the change was not carried out."));
         QCOMPARE(said(), QString());  // to be hidden, and it is
         QVERIFY(QFile::remove(w.paths.at(0)));
@@ -79,46 +67,22 @@ private slots:
         QLocale::setDefault(QLocale::system());
     }
 
-    void showsWhetherTheListTakesAnything() {
+    void storesNothingOverALockedList() {
         Stored sandbox({"a"});
         sandbox.defaults().setObject("x", passwordKey);
         sandbox.defaults().setObject("1", requirePasswordKey);
         Window w;
-        const auto report = [](bool right) {
-            NotificationCenter::defaultCenter().postNotification(
-                notification_names::verifyPassword, {{"yanzheng", right}, {"save", true}});
-        };
-        const auto shown = [&w] {
-            const QLabel* label = w.list()->count() > 0 ? w.ui.quietLine : w.ui.invitationHint;
-            return label->isVisible() && w.ui.textScrollCiew->isVisible() != (w.list()->count() > 0)
-                       ? label->text().section(u' ', 0, 3)
-                       : QString();
-        };
-        QCOMPARE(shown(), QString("The list is locked.\nThe"));
-        // No way in may write the empty working copy over the stored list.
         w.main.delegate().removemeaunItem_touch(nullptr);
         w.main.delegate().addmeaunItem_touch(nullptr);
         w.list()->setCanDragDrop(true);
         drop(*w.list(), {sandbox.makeFile("b")});
         QCOMPARE(sandbox.stored(), QString("a:\"1\""));
-        report(true);
-        QCOMPARE(w.list()->count(), 1);  // an unlock must not leave an empty list to be stored
-        QVERIFY(w.ui.passwordMeunItem->isEnabled() && w.ui.quietLine->isHidden());
-        report(false);
-        QCOMPARE(shown(), QString("The list is locked:"));
-        sandbox.defaults().setObject("0", requirePasswordKey);
-        report(false);
-        QCOMPARE(shown(), QString("Drag and drop is"));
-        w.choose(w.ui.removeMenuItem);
-        QCOMPARE(shown(), QString("Press “+” below to"));
-        report(true);
-        QVERIFY(shown() == "Drag files and folders" && w.ui.quietLine->isHidden());
     }
 
     void tellsWhatCannotBeSeen() {
         Stored sandbox({"a", "b", "c"});
         const QStringList& paths = sandbox.paths;
-        hideByName(sandbox, "b");
+        write(sandbox.folder() + "/files/.hidden", "b");
         const auto told = [](Window& w) {
             return w.ui.quietLine->isVisible() ? w.ui.quietLine->text().section(u' ', 0, 4) : "";
         };
@@ -136,21 +100,6 @@ private slots:
         setPreference(Preference::MakeInvisibleOnQuit, true);
         Window again;
         QTRY_COMPARE(told(again), QString("2 listed items could not"));
-    }
-
-    void callsOnlyObserversThatAreThere() {
-        struct Counter : QObject {
-            void note(const Notification&) { ++calls; }
-            int calls = 0;
-        };
-        auto& center = NotificationCenter::defaultCenter();
-        Counter stays;
-        center.addObserver(&stays, &Counter::note, "x");
-        center.addObserver(std::make_unique<Counter>().get(), &Counter::note, "x");
-        center.postNotification("x");
-        center.removeObserver(&stays, "x");
-        center.postNotification("x");
-        QCOMPARE(stays.calls, 1);
     }
 };
 

@@ -16,6 +16,9 @@ inline QString nameOf(const QString& row) {
 inline bool isShown(const QString& row) {
     return !row.endsWith(hidden);
 }
+inline qsizetype indexOf(const QStringList& rows, const QString& name) {
+    return rows.indexOf(QRegularExpression(name + ":.*"));
+}
 
 /// The facts in one line, for comparing and for reading.
 template <typename... Facts>
@@ -27,7 +30,7 @@ QString written(const Facts&... facts) {
 
 /// What outlives a window.
 struct Kept {
-    QStringList stored, files, commands;
+    QStringList stored, missing, files, commands;
     QString password, require;
     bool showsAtStart = false, hidesAtClose = false;
     qsizetype failures = 0, objects = 0;
@@ -44,7 +47,7 @@ struct Model : Kept {
     int current = 0, selected = -1, sorted = -1;
 
     int last() const { return static_cast<int>(list.size()) - 1; }
-    qsizetype find(QString name) const { return list.indexOf(QRegularExpression(name + ":.*")); }
+    qsizetype find(const QString& name) const { return indexOf(list, name); }
     bool canEdit() const { return require != "1" || verified; }
     bool hasRow() const { return current >= 0 && current <= last(); }
     bool canRemove() const { return hasRow() && isShown(list[current]); }
@@ -65,7 +68,12 @@ struct Model : Kept {
             *row = nameOf(*row) + shown;
             commands << "chflags|nohidden|" + nameOf(*row);
         }
+        QStringList gone = stored;
+        gone.removeIf([this](const QString& row) { return files.contains(nameOf(row)); });
         stored.removeIf([this](const QString& row) { return !files.contains(nameOf(row)); });
+        missing.removeIf(
+            [all = stored + gone](const QString& row) { return indexOf(all, nameOf(row)) >= 0; });
+        missing += gone;
         if (canDrop = canEdit(); canDrop) {
             load();
         }
@@ -155,9 +163,9 @@ struct Model : Kept {
         for (const QString& row : list) {
             rows += nameOf(row) + (isShown(row) ? ", Visible; " : ", Hidden; ");
         }
-        return written(rows, stored.join(' '), list.isEmpty() ? 0 : current, selected, "switch", on,
-                       on || !canSwitch, "can", canSwitch, canOpen, canRemove(), canEdit(), canDrop,
-                       pane, require == "1", password + require, commands, failures, "waiting", 0,
-                       0, "objects", objects);
+        return written(rows, stored.join(' '), missing.join(' '), list.isEmpty() ? 0 : current,
+                       selected, "switch", on, on || !canSwitch, "can", canSwitch, canOpen,
+                       canRemove(), canEdit(), canDrop, pane, require == "1", password + require,
+                       commands, failures, "waiting", 0, 0, "objects", objects);
     }
 };

@@ -127,11 +127,13 @@ private:
             rows += row(i)->text(QAccessible::Name) + "; ";
         }
         const QString stored = Sandbox::describe(defaults_->itemList().value());
-        return written(rows, stored, view.count() == 0 ? 0 : view.selectRowIndex(),
-                       table()->selectedRow(), "switch", ui().switchButton->on() != 0,
-                       ui().hideMenuItem->text() != "Show", "can", ui().hideMenuItem->isEnabled(),
-                       ui().openMenuItem->isEnabled(), ui().removeMenuItem->isEnabled(),
-                       ui().passwordMeunItem->isEnabled(), view.canDragDrop(),
+        const QVariantList missing = defaults_->objectForKey(missingItemsKey).toList();
+        return written(rows, stored, Sandbox::describe(ItemList::fromVariantList(missing)),
+                       view.count() == 0 ? 0 : view.selectRowIndex(), table()->selectedRow(),
+                       "switch", ui().switchButton->on() != 0, ui().hideMenuItem->text() != "Show",
+                       "can", ui().hideMenuItem->isEnabled(), ui().openMenuItem->isEnabled(),
+                       ui().removeMenuItem->isEnabled(), ui().passwordMeunItem->isEnabled(),
+                       view.canDragDrop(),
                        ui().customInfoView->isHidden() ? "none" : ui().filleTitle->text(),
                        ui().requirePassword->state() != 0,
                        storedPassword() + defaults_->objectForKey(requirePasswordKey).toString(),
@@ -191,6 +193,7 @@ private:
             const QPoint at = inRow(number);
             QMouseEvent move(QEvent::MouseMove, at, at, Qt::NoButton, Qt::NoButton, {});
             QCoreApplication::sendEvent(table()->viewport(), &move);
+            QCOMPARE(table()->checkButton()->isVisible(), isShown(model_.list[number]));
             click(table()->deletedButton());
         } else {
             row(number)->actionInterface()->doAction("Remove");

@@ -82,6 +82,7 @@ class Password(Story):
         velmora = self.seeded("1")
         self.answer(velmora, "", "Escape")
         self.expect(velmora, True, "1", False, [])
+        velmora.says("The list is locked.\n")
         velmora.press(*SWITCH)
         self.answer(velmora, "nothing", "alt+F4")
         self.expect(velmora, True, "1", False, [])
@@ -90,6 +91,7 @@ class Password(Story):
         velmora.press(*SWITCH)
         self.answer(velmora, "Pass 1", "Cancel")
         self.expect(velmora, True, "1", False, ROWS)
+        velmora.says("The list is locked: ")
         self.expect_add(velmora, False)
         velmora.press("Visible", "check box")
         self.eventually(velmora.rows, ["a, Hidden", "b, Visible"])
@@ -123,9 +125,12 @@ class Password(Story):
         self.eventually(velmora.rows, ["a, Hidden", "b, Visible"])
         act(velmora.row("a"), "Remove")  # tells more on a line that is shown already
         wait(lambda: any("“a” stays hidden" in name for _, name, _ in shown), "it is told")
+        act(velmora.row("b"), "Remove")
+        velmora.says("Press “+” below to add files. Drag and drop is closed\n")
         velmora.press(*SWITCH)
         self.answer(velmora, "Pass 1", "OK")
-        self.expect(velmora, True, "1", True, ROWS[1:])
+        self.expect(velmora, True, "1", True, [])
+        velmora.says("Drag files and folders here")
 
 
 if __name__ == "__main__":

@@ -1,9 +1,10 @@
 #include "platform/file_manager_refresh.h"
 
-#include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include "../support/files.h"
 
 /// A script stands in for the program that talks to the file managers and records what it reads,
 /// a line for each call.
@@ -14,7 +15,7 @@ private slots:
     void init() {
         folder_ = std::make_unique<QTemporaryDir>();
         QVERIFY(folder_->isValid());
-        write("refresh",
+        write(program(),
               "#!/bin/sh\nexec 2>/dev/null\ncd \"${0%/*}\" || exit\n"
               "items=$(tr '\\0\\n' '|/')\necho \"$#$items\" >>calls\n"
               "[ -e answer ] && cat answer\n[ -e slow ] && exec sleep 600\nexit 0\n");
@@ -42,7 +43,8 @@ private slots:
         QSignalSpy changes(&refresh, &FileManagerRefresh::unreachedChanged);
         const QList<FileManagerRefresh::Unreached> both{{"Caja", "F5"}, {"Thunar", "Ctrl+H"}};
         for (const auto& expected : {both, QList<FileManagerRefresh::Unreached>()}) {
-            write("answer", expected.isEmpty() ? "" : "Caja\tF5\nThunar\tCtrl+H\n");
+            write(folder_->filePath("answer"),
+                  expected.isEmpty() ? "" : "Caja\tF5\nThunar\tCtrl+H\n");
             refresh.itemChanged("/tmp/a");
             QTRY_COMPARE(changes.size(), expected.isEmpty() ? 2 : 1);
             QCOMPARE(refresh.unreached(), expected);
@@ -50,7 +52,7 @@ private slots:
     }
 
     void whatIsLeftIsToldAfterTheEnd() {
-        write("slow", "");
+        write(folder_->filePath("slow"), "");
         QElapsedTimer timer;
         {
             FileManagerRefresh refresh(program());
@@ -69,16 +71,8 @@ private:
     QString program() const { return folder_->filePath("refresh"); }
 
     QStringList calls() const {
-        QFile file(folder_->filePath("calls"));
-        return file.open(QIODevice::ReadOnly)
-                   ? QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)
-                   : QStringList();
-    }
-
-    void write(const QString& name, const QByteArray& content) const {
-        QFile file(folder_->filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
+        const QByteArray content = contentOf(folder_->filePath("calls"));
+        return QString::fromUtf8(content).split('\n', Qt::SkipEmptyParts);
     }
 
     std::unique_ptr<QTemporaryDir> folder_;

@@ -5,9 +5,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "files.h"
 #include "hiding/hiding.h"
-#include "platform/application.h"
-#include "sandbox.h"
+#include "window.h"
 
 Q_DECLARE_METATYPE(Hiding::Obstacle)
 
@@ -18,10 +18,6 @@ class HidingTest final : public QObject {
 private:
     static constexpr std::chrono::milliseconds usualPatience{30000};
 
-    static QByteArray contentOf(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     /// Modes and contents of all below the folder but the lists of hidden names.
     static QMap<QString, QByteArray> stateOf(const QString& folder) {
         QMap<QString, QByteArray> state;
@@ -142,9 +138,7 @@ private slots:
 };
 
 int main(int argc, char** argv) {
-    Application application(argc, argv);
-    HidingTest test;
-    return QTest::qExec(&test, argc, argv);
+    return run<HidingTest>(argc, argv);
 }
 
 #include "hiding_test.moc"

@@ -1,5 +1,4 @@
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -8,13 +7,13 @@
 #include <memory>
 
 #include <QDir>
-#include <QFile>
 #include <QScopeGuard>
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "../support/files.h"
 #include "lists.h"
 #include "state/preference_keys.h"
 #include "state/store_file.h"
@@ -27,22 +26,6 @@ std::atomic<int> syncs;        // a save makes four: of both files, each with it
 std::atomic<bool> saveIsHeld;  // until the gate is opened
 QSemaphore gate;
 constexpr int longestHold = 10'000;  // milliseconds, for a save that the caller waits for
-
-mode_t modeOf(const QString& file) {
-    struct stat status {};
-    ::stat(QFile::encodeName(file).constData(), &status);
-    return status.st_mode & 0777U;
-}
-
-QByteArray read(const QString& file) {
-    QFile input(file);
-    return input.open(QIODevice::ReadOnly) ? input.readAll() : QByteArray();
-}
-
-void write(const QString& file, const QByteArray& bytes) {
-    QFile output(file);
-    QVERIFY(output.open(QIODevice::WriteOnly) && output.write(bytes) == bytes.size());
-}
 
 }  // namespace
 
@@ -107,28 +90,6 @@ private slots:
         QVERIFY(sameStoredValue(defaults.itemList()->toVariantList(), storedForm(records)));
     }
 
-    void isForItsOwnerAlone() {
-        const QString wide = folder_->filePath("wide");
-        const QString file = wide + "/defaults.json";
-        QVERIFY(QDir().mkdir(wide));
-        write(file, "{}");
-        write(file + ".bak", "{}");
-        for (const QString& path : {wide, file, file + ".bak"}) {
-            QVERIFY(::chmod(QFile::encodeName(path).constData(), 0777) == 0);
-        }
-        UserDefaults defaults(file);
-        QCOMPARE(modeOf(file) | modeOf(file + ".bak"), 0700U);
-        defaults.setObject("x", passwordKey);
-        QVERIFY(defaults.synchronize());
-        QCOMPARE(modeOf(wide), 0700U);
-        QCOMPARE(modeOf(file), 0600U);
-        const mode_t before = ::umask(0);
-        const QString made = folder_->filePath("made");
-        const UserDefaults other(made + "/defaults.json");
-        ::umask(before);
-        QCOMPARE(modeOf(made), 0700U);
-    }
-
     void changesShareOneSaveThatNobodyWaitsFor() {
         UserDefaults defaults(file_);
         const auto letGo = [] {
@@ -142,7 +103,8 @@ private slots:
         defaults.setObject(1, "count");
         QCoreApplication::processEvents();
         QTRY_COMPARE(syncs, 1);
-        // The save is under way now, and everything goes on beside it.
+        // The save is under way now, and everything goes on beside it; its file stays.
+        const UserDefaults beside(file_);
         for (int i = 0; i < 100; ++i) {
             defaults.setObject(i, "count");
             QCoreApplication::processEvents();
@@ -150,7 +112,7 @@ private slots:
         QCOMPARE(syncs, 1);
         QVERIFY(!QFile::exists(file_));
         letGo();
-        QTRY_VERIFY(read(file_ + ".bak").contains("\"count\":99"));
+        QTRY_VERIFY(contentOf(file_ + ".bak").contains("\"count\":99"));
         QTRY_COMPARE(syncs, 8);
     }
 
@@ -176,9 +138,10 @@ private slots:
             QVERIFY(defaults.problem().isEmpty() && defaults.itemList()->at(0).ordinaryForm());
             defaults.setObject("1", requirePasswordKey);
         }
-        QCOMPARE(read(file_), R"({"big":[null,100.0,1.8446744073709552e22],"fileListView_List":[)"
-                              R"({"filePath":"/y/z","fileTitle":"z","visible":"0"},[{}],7],)"
-                              R"("password":5,"requirePassword":"1"})");
+        QCOMPARE(contentOf(file_),
+                 R"({"big":[null,100.0,1.8446744073709552e22],"fileListView_List":[)"
+                 R"({"filePath":"/y/z","fileTitle":"z","visible":"0"},[{}],7],)"
+                 R"("password":5,"requirePassword":"1"})");
     }
 
     void listOfAnotherTypeIsSetAsideBeforeItIsReplaced() {
@@ -191,7 +154,7 @@ private slots:
         defaults.setItemList(listOf(1, "item"));
         QVERIFY(defaults.synchronize());
         QCOMPARE(otherFiles().size(), 1);
-        QVERIFY(read(folder_->filePath(otherFiles().first())).startsWith(odd.chopped(1)));
+        QVERIFY(contentOf(folder_->filePath(otherFiles().first())).startsWith(odd.chopped(1)));
         QVERIFY(told.size() == 1 && defaults.problem().contains(otherFiles().first()));
     }
 
@@ -236,19 +199,6 @@ private slots:
         UserDefaults defaults(file_);
         QVERIFY(!defaults.synchronize() && !defaults.problem().isEmpty());
         QVERIFY(!QFileInfo(file_).isFile());
-    }
-
-    void deadTemporariesAreRemoved() {
-        for (const char* name :
-             {".new-Abc123", ".bak.new-Abc123", ".new-alive0", ".newer", ".2020"}) {
-            write(file_ + name, "x");
-        }
-        const int alive = ::open(QFile::encodeName(file_ + ".new-alive0").constData(), O_RDWR);
-        const auto close = qScopeGuard([alive] { ::close(alive); });
-        QVERIFY(::flock(alive, LOCK_EX) == 0);
-        const UserDefaults defaults(file_);
-        QCOMPARE(otherFiles(), QStringList({"defaults.json.2020", "defaults.json.new-alive0",
-                                            "defaults.json.newer"}));
     }
 };
 

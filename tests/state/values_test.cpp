@@ -126,27 +126,6 @@ private slots:
         QVERIFY_THROWS_EXCEPTION(RangeException, list.replace(1, ItemRecord()));
         QVERIFY_THROWS_EXCEPTION(RangeException, list.removeAt(1));
     }
-
-    void listSortsByTitle() {
-        // Both ends of UTF-16, prefixes, and equal titles whose order stays.
-        const QStringList titles{"", "\u0001", "B", "a", "aB", "ab", "ab", "é", "\uffff"};
-        ItemList list;
-        list.append(ItemRecord());
-        for (const int index : {6, 2, 8, 5, 4, 7, 1, 3}) {
-            list.append(ItemRecord::forPath(QString("/%1/").arg(index) + titles.at(index),
-                                            VisibleForm::StringOne));
-        }
-        for (const bool ascending : {true, false, true}) {
-            list.sortByTitle(ascending);
-            QStringList sorted;
-            list.forEach([&](const ItemRecord& record) { sorted.append(record.fileTitle()); });
-            if (!ascending) {
-                std::reverse(sorted.begin(), sorted.end());
-            }
-            QCOMPARE(sorted, titles);
-            QCOMPARE(list.at(ascending ? 5 : 2).filePath(), "/6/ab");
-        }
-    }
 };
 
 QTEST_GUILESS_MAIN(ValuesTest)

@@ -7,17 +7,14 @@
 #include <QUrl>
 
 #include "platform/shell.h"
-#include "state/preference_keys.h"
 
 namespace {
 
 QStringList logLines;
 
 void writeScript(const QString& path, const QString& text) {
-    QFile script(path);
-    QVERIFY(script.open(QIODevice::WriteOnly));
-    script.write(text.toUtf8());
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    write(path, text.toUtf8());
+    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 }  // namespace
@@ -69,13 +66,10 @@ QStringList Sandbox::makeFiles(const QStringList& names) const {
 }
 
 QStringList Sandbox::takeLines(const QString& name) const {
-    QFile record(folder() + u'/' + name);
-    if (!record.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    QStringList lines = QString::fromUtf8(record.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    const QString file = folder() + u'/' + name;
+    QStringList lines = QString::fromUtf8(contentOf(file)).split(u'\n', Qt::SkipEmptyParts);
     lines.replaceInStrings(folder() + QStringLiteral("/files/"), QString());
-    record.remove();
+    QFile::remove(file);
     return lines;
 }
 
@@ -103,10 +97,6 @@ void Sandbox::storeList(const QStringList& paths, VisibleForm form) {
 QString Sandbox::stored() const {
     const auto list = defaults_->itemList();
     return list ? describe(*list) : QStringLiteral("absent");
-}
-
-QString Sandbox::missing() const {
-    return describe(ItemList::fromVariantList(defaults_->objectForKey(missingItemsKey).toList()));
 }
 
 QString Sandbox::describe(const ItemList& list) {

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include "files.h"
 #include "list/drag_drop_view.h"
 #include "state/user_defaults.h"
 
@@ -31,8 +32,6 @@ public:
     void storeList(const QStringList& paths, VisibleForm form = VisibleForm::StringOne);
     /// The stored list as "title:form" ("a.txt:\"1\"", "b.txt:1"), for comparing.
     QString stored() const;
-    /// The same of the records that a start has found missing.
-    QString missing() const;
     static QString describe(const ItemList& list);
 
 private:

@@ -83,13 +83,11 @@ class Store(Torture):
         shutil.rmtree(self.folder)
         if link or main is not None or copy is not None:
             (self.folder / "else").mkdir(parents=True)
-            self.folder.chmod(0o700)
         if link:
             self.file.symlink_to("else/mine")
         for file, put in (self.file, main), (self.copy, copy):
             if put is not None:
                 file.write_bytes(put)
-                file.chmod(0o600)
 
     def startAgain(self):
         """Finds what is there, all of it, tells when that was not in order, and tidies up."""
@@ -99,6 +97,8 @@ class Store(Torture):
         self.assertEqual(name, wanted[0])
         self.assertEqual(problem == "", found[0] in (*GOOD, "") or found == (None, None), problem)
         self.assertEqual(list(self.folder.rglob("*.new-*")), [])
+        for path in filter(os.path.exists, (self.file, self.copy)):
+            self.assertEqual(path.stat().st_mode & 0o77, 0, path)  # for its owner alone
         self.assertEqual(self.look(self.file) or "", name)
 
     def walkStore(self, main, copy, link=False):
@@ -141,6 +141,7 @@ class Store(Torture):
                 self.file.write_bytes(damage)  # once more, in the same second
                 self.copy.write_bytes(self.old)
                 self.startAgain()
+                self.assertEqual(self.folder.stat().st_mode & 0o77, 0)
                 aside = self.folder.glob("defaults.json.2*")
                 self.assertEqual([content(each) == damage for each in aside], [True, True])
                 COUNTS["truncations"] += damage in cuts
