@@ -92,6 +92,13 @@ def act(node, name):
     action.doAction([action.getName(index) for index in range(action.nActions)].index(name))
 
 
+def copied(program, folder):
+    """The program with its companions, in another folder."""
+    shutil.copytree(program.parent.parent / "libexec/velmora", f"{folder}/libexec/velmora")
+    (pathlib.Path(folder) / "bin").mkdir()
+    return pathlib.Path(shutil.copy2(program, f"{folder}/bin"))
+
+
 class Home:
     """The folders and the environment of one user."""
 
@@ -133,13 +140,10 @@ class Home:
 
     def recording_program(self, *commands, then="true"):
         """A copy of the program with recording companions."""
-        prefix = pathlib.Path(tempfile.mkdtemp(dir=self.folder))
-        for part in "bin/velmora", "libexec/velmora":
-            whole = PROGRAM.parent.parent / part
-            (prefix / part).parent.mkdir()
-            (shutil.copytree if whole.is_dir() else shutil.copy2)(whole, prefix / part)
-        self.recorder(*commands, folder=prefix / "libexec/velmora", then=then)
-        return prefix / "bin/velmora"
+        program = copied(PROGRAM, tempfile.mkdtemp(dir=self.folder))
+        companions = program.parent.parent / "libexec/velmora"
+        self.recorder(*commands, folder=companions, then=then)
+        return program
 
     def records(self):
         return self.recorded.read_text().splitlines() if self.recorded.exists() else []
@@ -324,15 +328,12 @@ def _run_as_nobody(program):
     """Runs the calling file again as an ordinary user, from where that one may read."""
     with tempfile.TemporaryDirectory(dir="/tmp") as copy:
         os.chmod(copy, 0o755)
-        for part in program, program.parent.parent / "libexec":
-            target = pathlib.Path(copy) / part.relative_to(program.parent.parent)
-            target.parent.mkdir(exist_ok=True)
-            (shutil.copytree if part.is_dir() else shutil.copy2)(part, target)
+        program = copied(program, copy)
         tests = shutil.copytree(pathlib.Path(sys.argv[0]).parent, f"{copy}/tests")
         user = "--reuid=nobody", "--regid=nogroup", "--clear-groups"
         return subprocess.call(["setpriv", *user, *BOUND[1:], sys.executable, "-B",
                                 f"{tests}/{pathlib.Path(sys.argv[0]).name}",
-                                f"{copy}/bin/{program.name}", *sys.argv[1:]], cwd="/")
+                                program, *sys.argv[1:]], cwd="/")
 
 
 @contextlib.contextmanager

@@ -2,7 +2,7 @@
 import contextlib, json, os, pathlib, signal, subprocess
 
 import desktop
-from desktop import Story, click, key, middle, wait, walk, xdotool
+from desktop import Story, click, key, wait, walk, xdotool
 
 
 class Trouble(Story):

@@ -3,9 +3,7 @@
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QSignalSpy>
-#include <QTest>
 
-#include "files.h"
 #include "hiding/hiding.h"
 #include "window.h"
 

@@ -1,4 +1,3 @@
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -158,40 +157,36 @@ private slots:
         QVERIFY(told.size() == 1 && defaults.problem().contains(otherFiles().first()));
     }
 
-    void unreadableStoreIsLeftAlone_data() {
-        QTest::addColumn<QString>("closed");
-        // The link is one to a disk that is not there.
-        for (const char* closed : {"defaults.json", "defaults.json.bak", ".", "link"}) {
-            QTest::newRow(closed) << closed;
-        }
-    }
     void unreadableStoreIsLeftAlone() {
-        QFETCH(const QString, closed);
-        const bool linked = closed == "link";
-        const bool damaged = closed.endsWith(".bak");
         const bool root = ::geteuid() == 0;  // to whom nothing is closed
         QVERIFY(!root || ::seteuid(65534) == 0);
         const auto back = qScopeGuard([root] { QVERIFY(!root || ::seteuid(0) == 0); });
-        const QTemporaryDir folder;
-        const QString disk = folder.filePath("disk");
-        QVERIFY(QDir().mkdir(disk) && QFile::link(disk, folder.filePath("link")));
-        const QString file = folder.filePath(linked ? "link/defaults.json" : "defaults.json");
-        write(file, damaged ? "{" : R"({"password":"old"})");
-        write(file + ".bak", R"({"password":"copy"})");
-        const QByteArray path = QFile::encodeName(QDir::cleanPath(folder.filePath(closed)));
-        QVERIFY(linked ? QFile::rename(disk, disk + "2") : ::chmod(path.constData(), 0) == 0);
-        UserDefaults defaults(file);
-        const QSignalSpy told(&defaults, &UserDefaults::problemChanged);
-        QVERIFY(!defaults.isRead() && defaults.problem().contains("cannot be read"));
-        defaults.setObject("new", passwordKey);
-        QVERIFY(!defaults.objectForKey(passwordKey).isValid());
-        QVERIFY(defaults.synchronize() && !defaults.readAgain());
-        QVERIFY(linked ? QFile::rename(disk + "2", disk) : ::chmod(path.constData(), 0700) == 0);
-        QVERIFY(defaults.readAgain() && !told.isEmpty());
-        QCOMPARE(defaults.objectForKey(passwordKey), damaged ? "copy" : "old");
-        defaults.setObject("new", passwordKey);
-        QVERIFY(defaults.synchronize());
-        QCOMPARE(readStore(file).contents.value(passwordKey), "new");
+        // The link is one to a disk that is not there.
+        for (const QString closed : {"defaults.json", "defaults.json.bak", ".", "link"}) {
+            const bool linked = closed == "link";
+            const bool damaged = closed.endsWith(".bak");
+            const QTemporaryDir folder;
+            const QString disk = folder.filePath("disk");
+            QVERIFY(QDir().mkdir(disk) && QFile::link(disk, folder.filePath("link")));
+            const QString file = folder.filePath(linked ? "link/defaults.json" : "defaults.json");
+            write(file, damaged ? "{" : R"({"password":"old"})");
+            write(file + ".bak", R"({"password":"copy"})");
+            const QByteArray path = QFile::encodeName(QDir::cleanPath(folder.filePath(closed)));
+            QVERIFY(linked ? QFile::rename(disk, disk + "2") : ::chmod(path.constData(), 0) == 0);
+            UserDefaults defaults(file);
+            const QSignalSpy told(&defaults, &UserDefaults::problemChanged);
+            QVERIFY(!defaults.isRead() && defaults.problem().contains("cannot be read"));
+            defaults.setObject("new", passwordKey);
+            QVERIFY(!defaults.objectForKey(passwordKey).isValid());
+            QVERIFY(defaults.synchronize() && !defaults.readAgain());
+            QVERIFY(linked ? QFile::rename(disk + "2", disk)
+                           : ::chmod(path.constData(), 0700) == 0);
+            QVERIFY(defaults.readAgain() && !told.isEmpty());
+            QCOMPARE(defaults.objectForKey(passwordKey), damaged ? "copy" : "old");
+            defaults.setObject("new", passwordKey);
+            QVERIFY(defaults.synchronize());
+            QCOMPARE(readStore(file).contents.value(passwordKey), "new");
+        }
     }
 
     void whatIsNoOrdinaryFileIsNotTouched() {

@@ -1,9 +1,7 @@
 #include "sandbox.h"
 
 #include <QDropEvent>
-#include <QFile>
 #include <QMimeData>
-#include <QTest>
 #include <QUrl>
 
 #include "platform/shell.h"
