@@ -1,5 +1,6 @@
 #include <QLineEdit>
 
+#include "platform/notification_center.h"
 #include "state/preference_keys.h"
 #include "window.h"
 
@@ -100,6 +101,21 @@ private slots:
         setPreference(Preference::MakeInvisibleOnQuit, true);
         Window again;
         QTRY_COMPARE(told(again), QString("2 listed items could not"));
+    }
+
+    void callsOnlyObserversThatAreThere() {
+        struct Counter : QObject {
+            void note(const Notification&) { ++calls; }
+            int calls = 0;
+        };
+        auto& center = NotificationCenter::defaultCenter();
+        Counter stays;
+        center.addObserver(&stays, &Counter::note, "x");
+        center.addObserver(std::make_unique<Counter>().get(), &Counter::note, "x");
+        center.postNotification("x");
+        center.removeObserver(&stays, "x");
+        center.postNotification("x");
+        QCOMPARE(stays.calls, 1);
     }
 };
 
