@@ -19,11 +19,14 @@ SHOWN_BY = {"nautilus": "python3-nautilus", "caja": "caja-actions", "pcmanfm": "
 
 def is_ours(entry):
     """GTK 4.18 gives no entry a name: there, ours is the one alone in its part, without a key."""
-    return entry.name == ENTRY or (not entry.name and entry.parent.childCount == 1 and
-                                   "keyshortcuts:" in entry.getAttributes())
+    return entry.getRoleName() == "menu item" and (
+        entry.name == ENTRY or (not entry.name and entry.parent.childCount == 1 and
+                                "keyshortcuts:" in entry.getAttributes()))
 
 
 class ContextMenus(FileManagers):
+    nameless = False
+
     def lists(self, names, there=True):
         wait(lambda: all((name in self.browser.listed()) == there for name in names),
              lambda: f"{names}: {there}; it lists {self.browser.listed()}", PATIENCE)
@@ -45,6 +48,7 @@ class ContextMenus(FileManagers):
             with contextlib.suppress(AssertionError):  # some are passed over in silence
                 entry = wait(lambda: [node for node in self.focused if has(node, "FOCUSED")],
                              "an entry", timeout=1)[-1]
+                self.nameless = not entry.name
                 if is_ours(entry):
                     return key("Return")
         self.assertTrue(way, f"“{ENTRY}” is not among the entries")
@@ -58,18 +62,24 @@ class ContextMenus(FileManagers):
             new = self.home.records()[before:]
             calls = [line for line in new if line.startswith("velmora|--hide|--|")]
             return calls and new.count(f"ended {status}") == len(calls) and new
-        for last in False, True:  # a window that reads its folder anew can close its menu
+        for left in range(3, -1, -1):  # a window that reads its folder anew can close its menu
+            if self.nameless:  # a key that comes when the menu has closed would open the items
+                wait(lambda: subprocess.run(["pgrep", "-f", "libexec/velmora/refresh"],
+                                            stdout=subprocess.DEVNULL).returncode,
+                     "the windows are told no more", 60)
             if name in ("nautilus", "dolphin"):  # which do not tell what is selected
                 self.select(items)
             else:
                 wait(lambda: self.select(items), lambda: f"{items} are selected")
             try:
                 self.choose(WAYS.get(name, ()))
-                return wait(ended, lambda: f"ended {status}: {self.home.records()[before:]}")
+                wait(lambda: self.home.records()[before:], "it is called", 5)
+                break
             except AssertionError:
-                if last or self.home.records()[before:]:
+                if not left:
                     raise
                 key("Escape", "Escape")
+        return wait(ended, lambda: f"ended {status}: {self.home.records()[before:]}")
 
     def hidden(self, items):
         """Each of them is hidden, and listed once; nothing else is listed, but for the file of
