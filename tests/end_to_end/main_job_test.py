@@ -113,7 +113,8 @@ class MainJob(Story):
         act(velmora.row("gamma"), "Remove")
 
         key("ctrl+comma")
-        velmora.find("Preferences", "frame")
+        preferences = velmora.find("Preferences", "frame")
+        wait(lambda: has(preferences, "ACTIVE"), "it has the focus")
         key("Tab", "space", "Escape")
         self.eventually(
             lambda: velmora.store().get("Makeinvisibleallthelisteditemsonquit"), True)

@@ -127,7 +127,7 @@ class Trouble(Story):
 
         def shown():  # the program itself does not answer during a pass
             return [node.name for application in desktop.pyatspi.Registry.getDesktop(0)
-                    if b"/progress" in pathlib.Path(
+                    if application is not None and b"/progress" in pathlib.Path(
                         f"/proc/{application.get_process_id()}/cmdline").read_bytes()
                     for node in walk(application)]
 
