@@ -34,7 +34,7 @@ void prepare() {
     // The menus are in the window, except where the system has one bar for all windows.
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar,
                                    QGuiApplication::platformName() != QLatin1String("cocoa"));
-    VelmoraStyle::wear();
+    VelmoraStyle::install();
     Bundle::loadTranslations();
     QApplication::setWindowIcon(Bundle::imageNamed(QStringLiteral("velmora")));
     Shell::setCompanionsFolder(Shell::defaultCompanionsFolder());

@@ -19,7 +19,7 @@ namespace {
 std::unique_ptr<Ui::Main> loadInterface(QMainWindow& window) {
     auto ui = std::make_unique<Ui::Main>();
     ui->setupUi(&window);
-    dressMainWindow(*ui, window);
+    applyLook(*ui, window);
     return ui;
 }
 

@@ -65,7 +65,7 @@ QPalette backdropPalette() {
     return onBackdrop;
 }
 
-void dressInvitation(const Ui::Main& ui) {
+void applyInvitationLook(const Ui::Main& ui) {
     ui.invitation->setAutoFillBackground(false);
     // Drops and clicks on the invitation are meant for the list beneath it.
     ui.textScrollCiew->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -73,13 +73,13 @@ void dressInvitation(const Ui::Main& ui) {
     ui.invitationPicture->setPicture(image("drop"), {96, 96});
 }
 
-void dressControls(const Ui::Main& ui) {
+void applyControlLook(const Ui::Main& ui) {
     ui.hiddenCaption->setText(mainText("L5h-mo-cYT.title"));
     ui.visibleCaption->setText(mainText("lEi-kk-qD3.title"));
     ui.addButton->setIcon(image("add"));
     ui.addButton->setIconSize({20, 20});
     ui.addButton->setToolTip(withoutMnemonic(mainText("addMenuItem")));
-    ui.addButton->setDress(PaneButton::Dress::Framed);
+    ui.addButton->setAppearance(PaneButton::Appearance::Framed);
     ui.settingButton->setIcon(image("settings"));
     ui.settingButton->setIconSize({24, 24});
     ui.settingButton->setToolTip(withoutMnemonic(mainText("preferenceMenuItem")));
@@ -89,7 +89,7 @@ void dressControls(const Ui::Main& ui) {
     ui.sanjiao->setEnabled(false);
     ui.sanjiao->setIcon(twoStates("disclosure-closed", "disclosure-open"));
     ui.sanjiao->setIconSize({12, 12});
-    ui.sanjiao->setDress(PaneButton::Dress::Sign);
+    ui.sanjiao->setAppearance(PaneButton::Appearance::Indicator);
     ui.sanjiao->setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 
@@ -99,8 +99,8 @@ class Look final : public QObject {
 public:
     Look(const Ui::Main& ui, QMainWindow& window) : QObject(&window), ui_(ui), window_(window) {
         ui.contentLayout->insertItem(0, strut_);
-        dressInvitation(ui);
-        dressControls(ui);
+        applyInvitationLook(ui);
+        applyControlLook(ui);
         ui.informationScroll->viewport()->setAutoFillBackground(false);
         ui.customInfoView->setAutoFillBackground(false);
         colour();
@@ -185,6 +185,6 @@ private:
 
 }  // namespace
 
-void dressMainWindow(const Ui::Main& ui, QMainWindow& window) {
+void applyLook(const Ui::Main& ui, QMainWindow& window) {
     new Look(ui, window);
 }

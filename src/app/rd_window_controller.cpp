@@ -46,7 +46,7 @@ bool RDWindowController::hideAtQuit() {
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     ItemList list = defaults.itemList().value_or(ItemList());
     const bool goesOn =
-        hiding_.hideAtQuit(list, isListShown_() ? Names::Told : Names::Kept, window_.winId());
+        hiding_.hideAtQuit(list, isListShown_() ? Names::Shown : Names::Withheld, window_.winId());
     defaults.setItemList(list);
     return goesOn;
 }

@@ -94,8 +94,8 @@ void ViewController::launchReveal() {
     }
     UserDefaults& defaults = UserDefaults::standardUserDefaults();
     if (std::optional<ItemList> list = defaults.itemList()) {
-        parts_.hiding.showAtLaunch(*list,
-                                   canEditorItem() ? Hiding::Names::Told : Hiding::Names::Kept);
+        parts_.hiding.showAtLaunch(
+            *list, canEditorItem() ? Hiding::Names::Shown : Hiding::Names::Withheld);
         // Saved to the file together with what the existence filter leaves, in the same turn.
         defaults.setItemList(list);
     }

@@ -31,8 +31,8 @@ void drawPaneButtonFrame(QPainter& painter, const QRect& button, QStyle::State s
                      stateShade(state));
 }
 
-void PaneButton::setDress(Dress dress) {
-    dress_ = dress;
+void PaneButton::setAppearance(Appearance appearance) {
+    appearance_ = appearance;
     update();
 }
 
@@ -44,15 +44,15 @@ void PaneButton::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     QStyleOptionToolButton option;
     initStyleOption(&option);
-    if (dress_ == Dress::Framed) {
+    if (appearance_ == Appearance::Framed) {
         drawRoundedFrame(painter, rect(), QPen(isEnabled() ? frameColor : frameColor.lighter(130)),
                          framedGround);
     }
-    if (dress_ != Dress::Sign) {
+    if (appearance_ != Appearance::Indicator) {
         drawPaneButtonFrame(painter, rect(), option.state);
     }
     const QRect picture = QStyle::alignedRect(layoutDirection(), Qt::AlignCenter,
                                               grown(iconSize(), font()).boundedTo(size()), rect());
-    drawPicture(painter, icon(), picture, isEnabled() || dress_ == Dress::Sign,
+    drawPicture(painter, icon(), picture, isEnabled() || appearance_ == Appearance::Indicator,
                 isChecked() ? QIcon::On : QIcon::Off);
 }

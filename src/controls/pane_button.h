@@ -14,12 +14,12 @@ class PaneButton final : public QToolButton {
 public:
     using QToolButton::QToolButton;
 
-    enum class Dress {
+    enum class Appearance {
         Plain,
-        Framed,  ///< with a frame and a light background
-        Sign,    ///< the picture alone, which shows the state of another control
+        Framed,     ///< with a frame and a light background
+        Indicator,  ///< the picture alone, which shows the state of another control
     };
-    void setDress(Dress dress);
+    void setAppearance(Appearance appearance);
 
     /// The picture with four units around it.
     QSize sizeHint() const override;
@@ -29,7 +29,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    Dress dress_ = Dress::Plain;
+    Appearance appearance_ = Appearance::Plain;
 };
 
 /// Draws what PaneButton and the flat push buttons of the panes have around their contents: the

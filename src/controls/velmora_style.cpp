@@ -71,7 +71,7 @@ void drawFrame(QPainter& painter, const QStyleOption& option, const QRect& aroun
 
 }  // namespace
 
-void VelmoraStyle::wear() {
+void VelmoraStyle::install() {
     QApplication::setStyle(new VelmoraStyle(QApplication::style()));
 }
 

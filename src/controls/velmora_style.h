@@ -14,7 +14,7 @@ public:
     /// Wraps the style that the application object has chosen (the desktop's own, the one that the
     /// user has named, or Fusion) and makes the result the application's style. Call once, after
     /// the application object is made.
-    static void wear();
+    static void install();
 
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;

@@ -37,7 +37,7 @@ QString passWindow() {
 }
 
 QString told(const ItemRecord& record, Hiding::Names names) {
-    return names == Hiding::Names::Told ? record.fileTitle() : QString();
+    return names == Hiding::Names::Shown ? record.fileTitle() : QString();
 }
 
 QString reasonFor(Hiding::Obstacle obstacle) {

@@ -42,13 +42,13 @@ public:
     /// became of the item and emits switched().
     void switchItem(ItemRecord& record, bool visible);
     /// Whether the window of a pass that takes long may tell the names of the items.
-    enum class Names { Told, Kept };
+    enum class Names { Shown, Withheld };
     /// The launch pass: shows every item, from the last to the first, paths in single quotes.
-    void showAtLaunch(ItemList& list, Names names = Names::Kept);
+    void showAtLaunch(ItemList& list, Names names = Names::Withheld);
     /// The quit pass: hides every item, from the first to the last, paths as they are; the missing
     /// quotes are deliberate. False when the user has stopped it: what was done stays done, the
     /// rest is as it was. `above` is the X11 identifier of the main window, or 0.
-    bool hideAtQuit(ItemList& list, Names names = Names::Kept, quintptr above = 0);
+    bool hideAtQuit(ItemList& list, Names names = Names::Withheld, quintptr above = 0);
 
     /// File managers with open windows that could not be told.
     const QList<FileManagerRefresh::Unreached>& unreached() const { return refresh_.unreached(); }

@@ -33,7 +33,7 @@ RDPasswordViewController::RDPasswordViewController(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::RDPasswordViewController>()) {
     ui_->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
-    ui_->showPassword->setDress(PaneButton::Dress::Framed);
+    ui_->showPassword->setAppearance(PaneButton::Appearance::Framed);
     ui_->showPassword->setAccessibleName(tr("Show password"));
     ui_->showPassword->setToolTip(ui_->showPassword->accessibleName());
     connect(ui_->showPassword, &QAbstractButton::toggled, this,

@@ -36,7 +36,7 @@ private:
     }
 
 private slots:
-    void initTestCase() { VelmoraStyle::wear(); }
+    void initTestCase() { VelmoraStyle::install(); }
 
     void brightensTheFillByTheSameNoiseEveryTime() {
         const QImage noise = RDNSView::createNoiseImageRefWithWidth(128, 128, 0.5F);

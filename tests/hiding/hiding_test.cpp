@@ -117,14 +117,14 @@ private slots:
         Hiding hiding;
         sandbox.storeList(sandbox.makeFiles({"a", "b", "c"}));
         ItemList list = *sandbox.defaults().itemList();
-        hiding.showAtLaunch(list, Hiding::Names::Told);
-        QVERIFY(hiding.hideAtQuit(list, Hiding::Names::Told));
+        hiding.showAtLaunch(list, Hiding::Names::Shown);
+        QVERIFY(hiding.hideAtQuit(list, Hiding::Names::Shown));
         QVERIFY(!sandbox.commands().join(u' ').contains("progress"));  // they were short
         sandbox.setCommand("chflags", "sleep 0.3");
         hiding.showAtLaunch(list);
         QTRY_COMPARE(contentOf(log), QByteArray("1\t\0002\t\0", 6));
         QVERIFY(sandbox.commands().contains("progress|launch|3|0"));
-        QVERIFY(hiding.hideAtQuit(list, Hiding::Names::Told, 7));
+        QVERIFY(hiding.hideAtQuit(list, Hiding::Names::Shown, 7));
         QTRY_COMPARE(contentOf(log), QByteArray("1\tb\0002\tc\0", 8));
         QVERIFY(sandbox.commands().contains("progress|quit|3|7"));
         // Stopped at the last item, whose command hangs.
