@@ -67,7 +67,7 @@ class ContextMenus(FileManagers):
                 wait(lambda: subprocess.run(["pgrep", "-f", "libexec/velmora/refresh"],
                                             stdout=subprocess.DEVNULL).returncode,
                      "the windows are told no more", 60)
-            if name in ("nautilus", "dolphin"):  # which do not tell what is selected
+            if name in ("nautilus", "dolphin", "pcmanfm_qt"):  # which do not tell it each time
                 self.select(items)
             else:
                 wait(lambda: self.select(items), lambda: f"{items} are selected")
