@@ -39,10 +39,10 @@ private slots:
     void initTestCase() { VelmoraStyle::install(); }
 
     void brightensTheFillByTheSameNoiseEveryTime() {
-        const QImage noise = RDNSView::createNoiseImageRefWithWidth(128, 128, 0.5F);
+        const QImage grain = RDNSView::createNoiseImageRefWithWidth(128, 128, 0.5F);
         std::srand(124);
         for (int at = 0; at < 128 * 128; ++at) {
-            QCOMPARE(noise.constScanLine(at / 128)[at % 128], std::rand() % 256 / 2);
+            QCOMPARE(grain.constScanLine(at / 128)[at % 128], std::rand() % 256 / 2);
         }
         QVERIFY(RDNSView::createNoiseImageRefWithWidth(0, 5, 1).isNull());
         RDNSView view;

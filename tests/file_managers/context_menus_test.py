@@ -134,7 +134,9 @@ for name, manager in MANAGERS.items():
 
 if __name__ == "__main__":
     name = sys.argv[-1].removeprefix("ContextMenus.test_")
-    if subprocess.run(["dpkg", "--status", MANAGERS[name].program, SHOWN_BY.get(name, "dpkg")],
-                      stdout=subprocess.DEVNULL).returncode:  # tells what is missing
+    shown_by = [MANAGERS[name].program, SHOWN_BY.get(name, "dpkg")]
+    if subprocess.run(["dpkg-query", "--show", "--showformat=${db:Status-Status} ", *shown_by],
+                      capture_output=True, text=True).stdout.split() != ["installed"] * 2:
+        print(*shown_by, "are not both installed")
         sys.exit(77)
     desktop.main()
