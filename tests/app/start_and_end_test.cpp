@@ -53,6 +53,7 @@ private slots:
         QVERIFY(!w.main.viewController().canEditorItem() && !w.list()->canDragDrop());
         QVERIFY(!w.ui.switchButton->isEnabled() && !w.ui.addButton->isEnabled());
         QVERIFY(!w.ui.requirePassword->isEnabled() && !w.ui.settingButton->isEnabled());
+        const QImage lock = w.ui.invitationPicture->grab().toImage();
         drop(*w.list(), {sandbox.makeFile("b")});
         w.main.readStoreAgain();
         QVERIFY(!defaults.isRead());
@@ -70,6 +71,8 @@ private slots:
         QCOMPARE(Sandbox::describe(*w.list()->fileLists()), QString("a:\"1\""));
         QVERIFY(w.ui.quietLine->isHidden() && w.ui.switchButton->isEnabled());
         QVERIFY(w.list()->canDragDrop() && w.ui.addMenuItem->isEnabled());
+        w.choose(w.ui.removeMenuItem);
+        QVERIFY(w.list()->count() == 0 && w.ui.invitationPicture->grab().toImage() != lock);
     }
 
     void asksBeforeChangesAreLost() {
